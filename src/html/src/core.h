@@ -69,6 +69,11 @@ struct alignas(16) NodeRec {
     };
     static constexpr std::uint32_t manyAttrs = 255; ///< the true count stands in the block's header
 
+    struct Branch {
+        Ref firstChild;
+        Ref attrs; ///< AttrRec[attrCount]
+    };
+
     Ref parent;
     Ref next;
     Ref prev;
@@ -76,18 +81,15 @@ struct alignas(16) NodeRec {
     std::uint32_t flags : 5;
     std::uint32_t attrCount : 8;
     std::uint32_t holders : 16; ///< handles of callers; saturated counts go on in a side table of the arena
-    union {
-        struct { // Element, Form, Document, Doctype, XmlDeclaration
-            Ref firstChild;
-            Ref attrs; ///< AttrRec[attrCount]
-            Ref tag;   ///< TagRec
-        };
-        struct { // Text, Data, Comment
-            const char *text; ///< into the retained page where nothing had to be changed
-            std::uint32_t length;
-        };
-    };
     std::uint32_t index;
+    union {
+        Ref tag;              ///< TagRec of an Element, Form, Document, Doctype or XmlDeclaration
+        std::uint32_t length; ///< bytes of a Text, Data or Comment
+    };
+    union {
+        Branch branch;    ///< of an Element, Form, Document, Doctype or XmlDeclaration
+        const char *text; ///< of a Text, Data or Comment: into the retained page where nothing had to be changed
+    };
 };
 static_assert(sizeof(NodeRec) == 32 && sizeof(AttrRec) == 16);
 
