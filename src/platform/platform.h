@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/endpoints.h"
+
+#include <QString>
+
+namespace orl {
+
+class Bundle;
+class Clock;
+class Console;
+class DefaultsStore;
+class GlobalQueue;
+class MainQueue;
+class Reachability;
+class UrlReader;
+
+/// Stops the program because of a fault of its own that the rules call fatal.
+class FatalErrors {
+public:
+    virtual ~FatalErrors() = default;
+
+    /// Prints the message and aborts; the played one throws, so that a test can watch it.
+    [[noreturn]] virtual void fatalError(const QString &message) = 0;
+};
+
+/// The phone as the program sees it: one port per service. Outlives everything that uses it.
+struct Platform {
+    Clock &clock;
+    MainQueue &mainQueue;
+    GlobalQueue &globalQueue;
+    UrlReader &urlReader;
+    DefaultsStore &store;
+    Reachability &reachability;
+    Bundle &bundle;
+    Console &console;
+    FatalErrors &fatal;
+    Endpoints endpoints;
+};
+
+} // namespace orl
