@@ -14,8 +14,8 @@ namespace orl {
 struct UrlRequest {
     QUrl url;
     bool ignoreCache = false; ///< neither read from nor write to any cache between here and the host
-    std::optional<std::chrono::milliseconds> timeout; ///< without one, as long as the platform's reads last
-    QHash<QByteArray, QByteArray> headers;
+    std::optional<std::chrono::milliseconds> timeout = {}; ///< none: as long as the platform's reads last
+    QHash<QByteArray, QByteArray> headers = {};
 };
 
 /// What a host answered. The status is told and seldom looked at: an error page is bytes like any other.
@@ -31,14 +31,17 @@ public:
 
     virtual ~UrlReader() = default;
 
-    /// Blocks the calling worker until the whole body is here; any thread but the main one.
+    /// Blocks the calling thread until the whole body is here. Callable from any thread; the main thread
+    /// calls it only where it is meant to be held up.
     virtual Result<UrlResponse> read(const UrlRequest &request) = 0;
 };
 
-/// Reads a URL as UTF-8 text. A body that is no valid UTF-8 is an error: half a page would look like a whole one.
+/// Reads a URL as UTF-8 text. A body that is no valid UTF-8 is an error: half a page would look like a whole
+/// one.
 Result<QByteArray> readText(UrlReader &reader, const QUrl &url);
 
-/// Makes a URL of a text as endpoints and catalogues give it; nothing for a text that is no absolute http(s) URL.
+/// Makes a URL of a text as endpoints and catalogues give it; nothing for a text that is no absolute http(s)
+/// URL.
 std::optional<QUrl> makeUrl(const QString &text);
 
 } // namespace orl
