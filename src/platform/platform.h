@@ -1,6 +1,8 @@
 #pragma once
 
 #include "platform/endpoints.h"
+#include "platform/haptics.h"
+#include "platform/notification_center.h"
 
 #include <QString>
 
@@ -36,6 +38,8 @@ struct Platform {
     Console &console;
     FatalErrors &fatal;
     Endpoints endpoints;
+    NotificationCenter &notifications = NoNotificationCenter::instance();
+    Haptics &haptics = NoHaptics::instance();
 };
 
 } // namespace orl
