@@ -5,57 +5,9 @@
 
 namespace orl {
 
-namespace {
-
-/// Lives as long as the test holds it; what stands in the schedule only looks at it.
-class PlayedTimer : public RepeatingTimer {
-public:
-    struct Tick {
-        PlayedMainQueue &queue;
-        std::chrono::milliseconds interval;
-        Task task;
-        bool stopped = false;
-    };
-
-    explicit PlayedTimer(std::shared_ptr<Tick> tick) : tick_(std::move(tick)) { arm(tick_); }
-    ~PlayedTimer() override { tick_->stopped = true; }
-
-private:
-    static void arm(const std::shared_ptr<Tick> &tick) {
-        tick->queue.postAfter(tick->interval, [weak = std::weak_ptr(tick)] {
-            const std::shared_ptr<Tick> alive = weak.lock();
-            if (!alive || alive->stopped) return;
-            arm(alive);
-            alive->task();
-        });
-    }
-
-    std::shared_ptr<Tick> tick_;
-};
-
-} // namespace
-
-void PlayedMainQueue::post(Task task) {
-    schedule_.add(clock_.elapsed(), std::move(task));
-}
-
-void PlayedMainQueue::postAfter(std::chrono::milliseconds delay, Task task) {
-    schedule_.add(clock_.elapsed() + std::max(delay, std::chrono::milliseconds(0)), std::move(task));
-}
-
-std::unique_ptr<RepeatingTimer> PlayedMainQueue::every(std::chrono::milliseconds interval, Task tick) {
-    if (interval.count() <= 0) throw std::logic_error("a repeating timer needs an interval");
-    return std::make_unique<PlayedTimer>(
-        std::make_shared<PlayedTimer::Tick>(*this, interval, std::move(tick)));
-}
-
 bool PlayedMainQueue::step() {
     std::optional<Task> task = schedule_.takeDue(clock_.elapsed());
     if (!task) return false;
-    struct Running {
-        bool &flag;
-        ~Running() { flag = false; }
-    } running{running_ = true};
     (*task)();
     return true;
 }

@@ -2,6 +2,7 @@
 
 #include "platform/clock.h"
 #include "platform/queues.h"
+#include "platform/scheduled_main_queue.h"
 #include "platform/task_schedule.h"
 #include "support/fiber.h"
 
@@ -31,26 +32,21 @@ private:
     TaskSchedule::Time elapsed_{0};
 };
 
-class PlayedMainQueue : public MainQueue {
+class PlayedMainQueue : public ScheduledMainQueue {
 public:
     explicit PlayedMainQueue(const PlayedClock &clock) : clock_(clock) {}
-
-    void post(Task task) override;
-    void postAfter(std::chrono::milliseconds delay, Task task) override;
-    [[nodiscard]] std::unique_ptr<RepeatingTimer> every(std::chrono::milliseconds interval,
-                                                        Task tick) override;
 
     /// Runs the first task that is due; false when none is.
     bool step();
 
-    /// True while a main task runs.
-    bool isRunning() const { return running_; }
+protected:
+    Time now() const override { return clock_.elapsed(); }
+    void postAt(Time due, Task task) override { schedule_.add(due, std::move(task)); }
 
 private:
     friend class PlayedTime;
     const PlayedClock &clock_;
     TaskSchedule schedule_;
-    bool running_ = false;
 };
 
 /// When workers get their turn while `settle` runs.
