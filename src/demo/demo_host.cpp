@@ -1,0 +1,123 @@
+#include "demo_host.h"
+
+#include "first_website.h"
+#include "second_website.h"
+#include "server.h"
+
+#include <QDateTime>
+
+using namespace Qt::StringLiterals;
+
+namespace orl {
+
+namespace {
+
+double systemSeconds() {
+    return static_cast<double>(QDateTime::currentMSecsSinceEpoch()) / 1000;
+}
+
+/// Says that the network is there; nobody reads what it answers.
+class Probe : public demo::Service {
+public:
+    demo::Reply answer(const demo::Request &) const override { return {200, "text/plain", "ok\n"}; }
+};
+
+/// A kind of endpoint whose service is not built yet.
+class Unserved : public demo::Service {
+public:
+    demo::Reply answer(const demo::Request &) const override { return demo::notFoundPage(); }
+};
+
+} // namespace
+
+/// Everything behind the server. A further kind of endpoint is a member here and an entry in `services`.
+struct DemoHost::World {
+    explicit World(quint64 seed)
+        : catalogue(seed), configuration(catalogue), first(catalogue, seed), second(catalogue, seed) {}
+
+    demo::Server::Services services() const {
+        return {{u"config"_s, &configuration}, {u"first"_s, &first},       {u"second"_s, &second},
+                {u"mail"_s, &unserved},        {u"identity"_s, &unserved}, {u"ads"_s, &unserved},
+                {u"legal"_s, &unserved},       {u"store"_s, &unserved},    {u"probe"_s, &probe}};
+    }
+
+    demo::Catalogue catalogue;
+    demo::ConfigurationDocuments configuration;
+    demo::FirstWebsite first;
+    demo::SecondWebsite second;
+    Unserved unserved;
+    Probe probe;
+    demo::FaultTable faults;
+    std::unique_ptr<demo::Server> server; ///< made and destroyed on the host's thread
+};
+
+DemoHost::DemoHost(DemoHostOptions options)
+    : options_(std::move(options)), world_(std::make_unique<World>(options_.seed)) {
+    if (!options_.clock) options_.clock = systemSeconds;
+    thread_.setObjectName(u"demo host"_s);
+    onThread_.moveToThread(&thread_);
+}
+
+DemoHost::~DemoHost() {
+    if (!thread_.isRunning()) return;
+    QMetaObject::invokeMethod(
+        &onThread_, [this] { world_->server.reset(); }, Qt::BlockingQueuedConnection);
+    thread_.quit();
+    thread_.wait();
+}
+
+bool DemoHost::start() {
+    thread_.start();
+    const auto open = [this] {
+        world_->server =
+            std::make_unique<demo::Server>(world_->services(), world_->first, world_->faults, options_.clock);
+        port_ = world_->server->open(options_.port);
+    };
+    QMetaObject::invokeMethod(&onThread_, open, Qt::BlockingQueuedConnection);
+    return port_ != 0;
+}
+
+Endpoints DemoHost::endpoints() const {
+    const QString base = u"http://127.0.0.1:%1"_s.arg(port_);
+    Endpoints endpoints;
+    endpoints.configurationHost = base + u"/config"_s;
+    endpoints.firstWebsite = base + u"/first"_s;
+    endpoints.secondWebsite = base + u"/second/"_s;
+    endpoints.mailHost = base + u"/mail"_s;
+    endpoints.identityHost = base + u"/identity"_s;
+    endpoints.adHost = base + u"/ads"_s;
+    endpoints.legalHost = base + u"/legal"_s;
+    endpoints.storeHost = base + u"/store"_s;
+    endpoints.connectivityProbe = base + u"/probe"_s;
+    return endpoints;
+}
+
+void DemoHost::setFault(const QString &pathPrefix, Fault fault) {
+    world_->faults.set(pathPrefix, fault);
+}
+
+void DemoHost::clearFaults() {
+    world_->faults.clear();
+}
+
+void DemoHost::setConfiguration(const demo::ConfigurationValues &values) {
+    world_->configuration.setValues(values);
+}
+
+QByteArray endpointsFile(const Endpoints &endpoints) {
+    const std::pair<const char *, QString> lines[] = {{"configurationHost", endpoints.configurationHost},
+                                                      {"firstWebsite", endpoints.firstWebsite},
+                                                      {"secondWebsite", endpoints.secondWebsite},
+                                                      {"mailHost", endpoints.mailHost},
+                                                      {"identityHost", endpoints.identityHost},
+                                                      {"adHost", endpoints.adHost},
+                                                      {"legalHost", endpoints.legalHost},
+                                                      {"storeHost", endpoints.storeHost},
+                                                      {"connectivityProbe", endpoints.connectivityProbe}};
+    QByteArray text;
+    for (const auto &[key, value] : lines)
+        text += QByteArray(key) + '=' + value.toUtf8() + '\n';
+    return text;
+}
+
+} // namespace orl

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "configuration_documents.h"
+#include "fault.h"
+#include "platform/endpoints.h"
+
+#include <QThread>
+
+#include <functional>
+#include <memory>
+
+namespace orl {
+
+struct DemoHostOptions {
+    quint16 port = 0; ///< 0 = any free one
+    std::function<double()>
+        clock;        ///< seconds since 1970, asked on the host's thread; none = the system's clock
+    quint64 seed = 1; ///< another seed is another world: other numbers, other messages
+};
+
+/// Serves every endpoint of the system on one loopback port: lifelike pages, a new message every few seconds.
+///
+/// It serves from a thread of its own, so a blocking reader on any other thread of the same process never
+/// waits for itself. What it serves depends only on the seed, the path and the time; a restarted program sees
+/// the same messages. Each kind of endpoint has a first path segment of its own: "/config", "/first",
+/// "/second"...
+class DemoHost {
+public:
+    explicit DemoHost(DemoHostOptions options = {});
+    ~DemoHost();
+    DemoHost(const DemoHost &) = delete;
+    DemoHost &operator=(const DemoHost &) = delete;
+
+    /// False if the port cannot be had. Call it once.
+    bool start();
+    /// Where it serves; only after start() gave true.
+    Endpoints endpoints() const;
+    quint16 port() const { return port_; }
+
+    /// From any thread; the next request meets it. See FaultTable::set for `pathPrefix`.
+    void setFault(const QString &pathPrefix, Fault fault);
+    void clearFaults();
+    /// From any thread; the next request for "orl_config.json" sees them.
+    void setConfiguration(const demo::ConfigurationValues &values);
+
+private:
+    struct World;
+
+    DemoHostOptions options_;
+    std::unique_ptr<World> world_;
+    QThread thread_;
+    QObject onThread_; ///< lives on thread_: what is invoked on it runs there
+    quint16 port_ = 0;
+};
+
+/// The lines `key=value` of an endpoints file, the keys being the members of Endpoints.
+QByteArray endpointsFile(const Endpoints &endpoints);
+
+} // namespace orl
