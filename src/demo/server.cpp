@@ -57,9 +57,13 @@ void writeHuge(QTcpSocket *socket, const Delivery &delivery) {
     const auto left = std::make_shared<qint64>(hugeSize - delivery.reply.body.size());
     static const QByteArray filler =
         QByteArray("<p>All work and no play makes a long page.</p>\n").repeated(1400);
-    const auto more = [socket, left] {
-        while (*left > 0 && socket->bytesToWrite() < filler.size())
-            *left -= socket->write(filler.left(*left));
+    const auto more = [socket, left, close = delivery.close] {
+        while (*left > 0 && socket->bytesToWrite() < filler.size()) {
+            const qint64 written = socket->write(filler.left(*left));
+            if (written < 0) return; // the client has gone
+            *left -= written;
+        }
+        if (*left == 0 && close) socket->disconnectFromHost();
     };
     QObject::connect(socket, &QTcpSocket::bytesWritten, socket, more);
     more();
