@@ -26,7 +26,6 @@ public:
     /// Takes the first task out if it is due at `now`.
     std::optional<Task> takeDue(Time now);
 
-    bool isEmpty() const { return tasks_.empty(); }
     void clear();
 
 private:

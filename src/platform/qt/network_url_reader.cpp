@@ -167,6 +167,7 @@ private:
 
 NetworkUrlReader::NetworkUrlReader() : loader_(new Loader) {
     thread_.setObjectName(QStringLiteral("network"));
+    queue_.moveToThread(&thread_);
     loader_->moveToThread(&thread_);
     QObject::connect(&thread_, &QThread::finished, loader_, &QObject::deleteLater);
     thread_.start();
@@ -190,7 +191,7 @@ std::shared_ptr<NetworkUrlReader::Job> NetworkUrlReader::begin(const UrlRequest 
     if (stopped_) return nullptr;
     const auto job = std::make_shared<Job>();
     jobs_.insert(job);
-    QMetaObject::invokeMethod(loader_, [loader = loader_, request, job] { loader->load(request, job); });
+    queue_.post([loader = loader_, request, job] { loader->load(request, job); });
     return job;
 }
 

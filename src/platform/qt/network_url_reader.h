@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/qt/qt_main_queue.h"
 #include "platform/url_reader.h"
 
 #include <QThread>
@@ -39,7 +40,8 @@ private:
     std::set<std::shared_ptr<Job>> jobs_;
     bool stopped_ = false;
     QThread thread_;
-    Loader *loader_; // lives and goes on thread_
+    QtMainQueue queue_; // lives on thread_
+    Loader *loader_;    // lives and goes on thread_
 };
 
 } // namespace orl

@@ -4,7 +4,9 @@
 
 #include <QThreadPool>
 
-#include <atomic>
+#include <condition_variable>
+#include <deque>
+#include <mutex>
 
 namespace orl {
 
@@ -24,8 +26,16 @@ public:
     void stop();
 
 private:
+    void runOne();
+
+    // The tasks pass from thread to thread under a mutex of ours, which the thread sanitizer can see; the
+    // pool only lends the threads.
+    std::mutex mutex_;
+    std::condition_variable idle_;
+    std::deque<Task> tasks_;
+    int running_ = 0;
+    bool stopped_ = false;
     QThreadPool pool_;
-    std::atomic<bool> stopped_ = false;
 };
 
 } // namespace orl

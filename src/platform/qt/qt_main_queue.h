@@ -16,7 +16,8 @@ public:
     QtMainQueue();
     ~QtMainQueue() override { stop(); }
 
-    /// Main thread only: drops all tasks and timers; nothing fires from now on and what is posted is dropped.
+    /// On its own thread, or when that has ended: drops all tasks and timers; nothing fires from now on and
+    /// what is posted is dropped.
     void stop();
 
 protected:
@@ -34,9 +35,9 @@ private:
     bool wakePosted_ = false;
     bool stopped_ = false;
 
-    // Of the main thread alone.
+    // Of its own thread alone.
     bool running_ = false;
-    QTimer timer_;
+    QTimer timer_{this};
 };
 
 } // namespace orl

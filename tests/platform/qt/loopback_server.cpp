@@ -7,6 +7,8 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 
+#include <future>
+
 namespace orl {
 
 namespace {
@@ -31,11 +33,11 @@ YZwPFqzcWMADCJeqmFzb/Asy07ejzQ2VIrYEXJcEvg==
 -----END CERTIFICATE-----
 )";
 
-QTcpServer *makeTlsServer(QObject *parent) {
+QTcpServer *makeTlsServer() {
     QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
     configuration.setPrivateKey(QSslKey(testKey, QSsl::Ec));
     configuration.setLocalCertificate(QSslCertificate(testCertificate));
-    auto *server = new QSslServer(parent);
+    auto *server = new QSslServer;
     server->setSslConfiguration(configuration);
     return server;
 }
@@ -43,17 +45,24 @@ QTcpServer *makeTlsServer(QObject *parent) {
 } // namespace
 
 LoopbackServer::LoopbackServer(bool tls) : scheme_(QLatin1String(tls ? "https" : "http")) {
-    context_.moveToThread(&thread_);
+    queue_.moveToThread(&thread_);
     thread_.start();
-    QMetaObject::invokeMethod(
-        &context_, [this, tls] { listen(tls); }, Qt::BlockingQueuedConnection);
+    runThere([this, tls] { listen(tls); });
 }
 
 LoopbackServer::~LoopbackServer() {
-    QMetaObject::invokeMethod(
-        &context_, [this] { delete server_; }, Qt::BlockingQueuedConnection);
+    runThere([this] { delete server_; });
     thread_.quit();
     thread_.wait();
+}
+
+void LoopbackServer::runThere(const std::function<void()> &work) {
+    std::promise<void> done;
+    queue_.post([&] {
+        work();
+        done.set_value();
+    });
+    done.get_future().wait();
 }
 
 void LoopbackServer::answer(const QString &path, const QByteArray &bytes, Then then) {
@@ -77,7 +86,7 @@ std::vector<QByteArray> LoopbackServer::requests(std::size_t atLeast) {
 }
 
 void LoopbackServer::listen(bool tls) {
-    server_ = tls ? makeTlsServer(&context_) : new QTcpServer(&context_);
+    server_ = tls ? makeTlsServer() : new QTcpServer;
     server_->listen(QHostAddress::LocalHost);
     port_ = server_->serverPort();
     QObject::connect(server_, &QTcpServer::pendingConnectionAvailable, server_, [this] {

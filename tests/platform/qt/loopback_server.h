@@ -1,12 +1,14 @@
 #pragma once
 
+#include "platform/qt/qt_main_queue.h"
+
 #include <QByteArray>
-#include <QObject>
 #include <QString>
 #include <QThread>
 #include <QUrl>
 
 #include <condition_variable>
+#include <functional>
 #include <map>
 #include <mutex>
 #include <vector>
@@ -49,9 +51,11 @@ private:
     std::condition_variable requestArrived_;
     std::map<QByteArray, Answer> answers_;
     std::vector<QByteArray> requests_;
+    void runThere(const std::function<void()> &work);
+
     QThread thread_;
-    QObject context_; // lives on thread_
-    QTcpServer *server_ = nullptr;
+    QtMainQueue queue_;            // lives on thread_
+    QTcpServer *server_ = nullptr; // lives and goes on thread_
     quint16 port_ = 0;
     const QString scheme_;
 };

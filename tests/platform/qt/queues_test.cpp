@@ -30,15 +30,33 @@ protected:
     void expectLog(const char *words) { EXPECT_EQ(log.join(QLatin1Char(' ')), QString::fromLatin1(words)); }
 };
 
+/// A main queue whose time stands still until it is moved.
+struct StoppedQueue : QtMainQueue {
+    Time time{0};
+    Time now() const override { return time; }
+};
+
 TEST_F(QtMainQueueTest, RunsTasksByTheirTimeAndThenInTheOrderOfPosting) {
-    queue.postAfter(20ms, note("d"));
-    queue.postAfter(10ms, note("c"));
-    queue.postAfter(30ms, end());
-    queue.post(note("a"));
-    queue.postAfter(-5ms, note("b"));
+    StoppedQueue own;
+    own.postAfter(1h, note("d"));
+    own.postAfter(3ms, note("c"));
+    own.postAfter(1h, note("e"));
+    own.post(note("a"));
+    own.postAfter(-5ms, note("b"));
+    own.postAfter(1h + 1ms, note("f"));
     expectLog("");
+    own.time = 1h;
+    QCoreApplication::processEvents();
+    expectLog("a b c d e");
+}
+
+TEST_F(QtMainQueueTest, ADelayEndsByItself) {
+    queue.postAfter(3ms, note("late"));
+    queue.postAfter(3ms, end());
+    queue.postAfter(1ms, note("early"));
     loop.exec();
-    expectLog("a b c d");
+    EXPECT_TRUE(log.contains(QStringLiteral("early")));
+    EXPECT_TRUE(log.contains(QStringLiteral("late")));
 }
 
 TEST_F(QtMainQueueTest, ATaskThatPostsReturnsBeforeThePostedOneRuns) {
