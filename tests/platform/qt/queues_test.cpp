@@ -92,7 +92,7 @@ TEST_F(QtMainQueueTest, KeepsTheOrderOfEachThreadThatPosts) {
 }
 
 TEST_F(QtMainQueueTest, ATaskThatSpinsALoopHoldsTheOthersUp) {
-    queue.post([this] {
+    queue.postAfter(1ms, [this] {
         queue.post(note("next"));
         queue.post(end());
         for (int i = 0; i < 10; ++i)
