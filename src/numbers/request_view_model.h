@@ -151,13 +151,23 @@ Q_SIGNALS:
 
 private:
     struct Worker;
-    using Box = std::shared_ptr<QList<Message>>;
+    class MessageFetch;
 
     Worker worker();
     QVariant currentCountryVariant() const;
     QVariant currentNumberVariant() const;
     QVariant selectedConversationVariant() const;
     QVariant lastFetchSucceededAtVariant() const;
+
+    void setCurrent(const Country &country, const PhoneNumber &number);
+    void setIcons(const QStringList &icons);
+    void setHistoryList(const QList<History> &list);
+    void setSenders(const QList<SMSSender> &senders);
+
+    bool nativeAdEnabled() const;
+    void fetchSucceeded();
+    void applySecondWebsite(const QList<Message> &list, bool whole, bool force);
+    void announceLaterThan(double last, const QList<Message> &list);
 
     Process &process_;
     std::shared_ptr<NumberState> state_;

@@ -43,7 +43,7 @@ private:
     QString text(const html::Element &root, ScrapingItem ScrapingConfig::*item,
                  QStringList ScrapingConfig::*removals) const;
     QString displayName() const;
-    void logFailure(const char *what) const;
+    void logFailure(const html::Exception::Error &error) const;
 
     const Platform platform_;
     std::shared_ptr<const Snapshot<ScrapingConfig>> recipe_;

@@ -28,6 +28,7 @@ public:
 
     /// A copy of the icons list; see RequestViewModel::fetchIcons.
     void setIcons(const QStringList &icons);
+    QStringList icons() const;
 
     /// `domain` is the country's path on the website. A URL that cannot be made is never completed.
     void fetchNumbers(const QString &domain, NumbersCompletion completion) const;
