@@ -2,6 +2,7 @@
 
 #include "platform/haptics.h"
 #include "platform/notification_center.h"
+#include "platform/platform.h"
 
 #include <QStringList>
 
@@ -50,5 +51,12 @@ public:
     std::vector<Impact> impacts;
     void impact(Impact style) override { impacts.push_back(style); }
 };
+
+/// The phone with these two in place of those that do nothing.
+inline Platform playedWith(const Platform &phone, NotificationCenter &notifications, Haptics &haptics) {
+    return {phone.clock, phone.mainQueue,    phone.globalQueue, phone.urlReader,
+            phone.store, phone.reachability, phone.bundle,      phone.console,
+            phone.fatal, phone.endpoints,    notifications,     haptics};
+}
 
 } // namespace orl
