@@ -37,9 +37,8 @@ QString renamed(QString text, const QString &name) {
 } // namespace
 
 QString removing(const QStringList &texts, QString from) {
-    for (const QString &text : texts) {
-        if (!text.isEmpty()) from.remove(text);
-    }
+    for (const QString &text : texts)
+        from.remove(text);
     return from;
 }
 

@@ -240,7 +240,7 @@ TEST_F(CataloguesTest, TheNumbersOfTheFirstWebsiteCompleteOnce) {
     ScrapingConfig recipe;
     recipe.phoneNumberShouldRemove = {QStringLiteral("No. ")};
     setRecipe(recipe);
-    phone.urls.answer(countryUrl, test::numbersPage({" No. +47 1 ", "+47 2"}));
+    phone.urls.answer(countryUrl, test::numbersPage({"\u00a0No. +47 1 ", "+47 2"}));
     make();
     fetchNumbers();
     const QStringList expected{QStringLiteral("+47 1"), QStringLiteral("+47 2")};

@@ -60,7 +60,7 @@ struct SecondWebsiteTest : PipelineTest {
 } // namespace
 
 TEST_F(PipelineTest, ReadsAMessageByTheCompiledRecipe) {
-    answerMessages({{QStringLiteral("From: Bank"), QStringLiteral("From Code 1 & 2"),
+    answerMessages({{QStringLiteral("From: Bank"), QStringLiteral("s2 < \" > Code 1 & 2"),
                      QStringLiteral("2026-01-01T00:00:00.000000Z")}});
     makeWithNumber();
     fetch();
