@@ -183,7 +183,7 @@ Result<QList<Message>> RequestViewModel::Worker::parseMessagesPage(const QUrl &u
         message.id = freshUuidText();
         message.sender.id = freshUuidText();
         message.sender.name = scraping.messageSender(elements[i]);
-        message.sender = senderLook(message.sender);
+        message.sender = senderLook(std::move(message.sender));
         if (i < times.size()) message.time = scraping.messageTime(toQString(times[i].outerHtml()));
         message.content = withoutLeadingBlank(scraping.messageContent(elements[i]));
         list.append(message);
@@ -218,9 +218,9 @@ void RequestViewModel::groupMessages(const QList<Message> &list) {
     state_->gradientColorIndex = 0;
     QList<SMSSender> rows;
     QHash<QString, qsizetype> rowOf;
-    const auto append = [&](const SMSSender &sender) {
+    const auto append = [&](SMSSender sender) {
         if (!rowOf.contains(sender.name)) rowOf.insert(sender.name, rows.size());
-        rows.append(sender);
+        rows.append(std::move(sender));
     };
     for (const Message &message : list) {
         const auto row = rowOf.constFind(message.sender.name);
@@ -232,9 +232,9 @@ void RequestViewModel::groupMessages(const QList<Message> &list) {
         sender.id = freshUuidText();
         sender.name = message.sender.name;
         sender.messages = {message};
-        sender = look.senderLook(sender);
+        sender = look.senderLook(std::move(sender));
         if (ads && rows.size() % sendersPerAd == 0) append(adSender(rows.size()));
-        append(sender);
+        append(std::move(sender));
     }
     setSenders(rows);
 }

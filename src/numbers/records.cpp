@@ -1,6 +1,9 @@
 #include "numbers/records.h"
 
 #include <QHashFunctions>
+#include <QRandomGenerator>
+
+#include <cstring>
 
 namespace orl {
 
@@ -67,7 +70,16 @@ size_t qHash(Continents continent, size_t seed) noexcept {
 }
 
 QString freshUuidText() {
-    return uuidText(QUuid::createUuid());
+    // Every refresh makes one for each message and sender; asking the kernel each time would cost a
+    // microsecond.
+    quint32 random[4];
+    QRandomGenerator::global()->fillRange(random);
+    QUuid uuid;
+    static_assert(sizeof random == sizeof uuid);
+    std::memcpy(&uuid, random, sizeof uuid);
+    uuid.data3 = (uuid.data3 & 0x0FFF) | 0x4000;   // version 4, random
+    uuid.data4[0] = (uuid.data4[0] & 0x3F) | 0x80; // the usual variant
+    return uuidText(uuid);
 }
 
 Country Country::decode(JsonDecoder &json) {

@@ -135,6 +135,20 @@ TEST(Records, HashAsTheyCompare) {
     EXPECT_NE(std::hash<Country>()(moved), std::hash<Country>()(sampleCountry));
 }
 
+TEST(FreshUuidText, IsARandomUuidInCanonicalForm) {
+    QSet<QString> seen;
+    for (int i = 0; i < 1000; ++i) {
+        const QString text = freshUuidText();
+        const std::optional<QUuid> uuid = uuidFromText(text);
+        ASSERT_TRUE(uuid) << text.toStdString();
+        EXPECT_EQ(uuid->version(), QUuid::Random);
+        EXPECT_EQ(uuid->variant(), QUuid::DCE);
+        EXPECT_EQ(text, text.toUpper());
+        seen.insert(text);
+    }
+    EXPECT_EQ(seen.size(), 1000);
+}
+
 TEST(IconText, IsTwoUpperCaseCharacters) {
     const std::pair<const char *, const char *> cases[] = {
         {"bank", "BA"},
