@@ -4,7 +4,7 @@
 #include "platform/process.h"
 
 #include <QString>
-#include <orl/html/html.h>
+#include <orl/html/document.h>
 
 #include <memory>
 #include <optional>

@@ -2,6 +2,8 @@
 
 #include "platform/url_reader.h"
 
+#include <orl/html/parser.h>
+
 #include <string_view>
 
 namespace orl {

@@ -5,7 +5,8 @@
 
 #include <QString>
 #include <QUrl>
-#include <orl/html/html.h>
+#include <orl/html/document.h>
+#include <orl/html/exception.h>
 
 #include <string>
 

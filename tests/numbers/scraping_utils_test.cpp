@@ -2,6 +2,7 @@
 #include "numbers_phone.h"
 
 #include <gtest/gtest.h>
+#include <orl/html/parser.h>
 
 namespace orl {
 
