@@ -1,0 +1,76 @@
+#include "cli/commands.h"
+#include "cli/port_watch.h"
+#include "demo/endpoints_in_force.h"
+#include "platform/qt/linux_platform.h"
+
+#include <QCoreApplication>
+#include <QTemporaryDir>
+#include <QTextStream>
+
+#include <cstdio>
+
+namespace {
+
+using namespace orl;
+
+void printLine(std::FILE *stream, const QString &line) {
+    std::fprintf(stream, "%s\n", line.toUtf8().constData());
+    std::fflush(stream);
+}
+
+int endWith(ExitCode code, const QString &notice) {
+    printLine(stderr, QStringLiteral("orl-cli: ") + notice);
+    return int(code);
+}
+
+/// The ports of the phone with the two that are watched put in between.
+Platform watched(const Platform &ports, IdleWatch &idle, ReadWatch &reads) {
+    return {ports.clock,        ports.mainQueue, idle,          reads,       ports.store,
+            ports.reachability, ports.bundle,    ports.console, ports.fatal, ports.endpoints};
+}
+
+int runCommand(const CommandLine &line, const Endpoints &endpoints) {
+    // Showing a number's messages makes it the current one; the application's own choice must not change by
+    // that.
+    const QTemporaryDir scratch;
+    LinuxPlatform phone(
+        {.dataFolder = scratch.path(),
+         .endpoints = endpoints,
+         .infoValues = {{QStringLiteral("CFBundleDisplayName"), QStringLiteral("Orl")},
+                        {QStringLiteral("CFBundleShortVersionString"), QStringLiteral(ORL_VERSION)}}});
+    const Platform ports = phone.platform();
+    IdleWatch idle(ports.globalQueue, ports.mainQueue);
+    ReadWatch reads(ports.urlReader);
+    Process process(watched(ports, idle, reads));
+    Commands commands(
+        process, idle, reads,
+        {[](const QString &result) { printLine(stdout, result); },
+         [](const QString &notice) { printLine(stderr, QStringLiteral("orl-cli: ") + notice); }});
+    commands.run(line, [](ExitCode code) { QCoreApplication::exit(int(code)); });
+    const int code = QCoreApplication::exec();
+    phone.stop();
+    return code;
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("orl"));
+
+    const Result<CommandLine> line = CommandLine::parse(QCoreApplication::arguments());
+    if (!line.ok())
+        return endWith(ExitCode::WrongUse, line.error().description + QStringLiteral(" (see --help)"));
+    if (line.value().command == CommandLine::Command::Help) {
+        printLine(stdout, CommandLine::help().trimmed());
+        return int(ExitCode::Done);
+    }
+    if (line.value().command == CommandLine::Command::Version) {
+        printLine(stdout, QStringLiteral("orl-cli " ORL_VERSION));
+        return int(ExitCode::Done);
+    }
+    const Result<std::shared_ptr<EndpointsInForce>> inForce =
+        EndpointsInForce::open(line.value().endpointsFile);
+    if (!inForce.ok()) return endWith(ExitCode::WrongUse, inForce.error().description);
+    return runCommand(line.value(), inForce.value()->endpoints());
+}

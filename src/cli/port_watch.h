@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/queues.h"
+#include "platform/url_reader.h"
+
+#include <atomic>
+#include <memory>
+
+namespace orl {
+
+/// Tells when the program has come to rest. State objects start work and publish what comes of it, but have
+/// no end to wait for; a terminal command needs one. It stands between the state objects and the queue of
+/// blocking work: at rest means that no work item is left and that everything those items posted to the main
+/// queue has run.
+class IdleWatch : public GlobalQueue {
+public:
+    IdleWatch(GlobalQueue &queue, MainQueue &mainQueue) : queue_(queue), mainQueue_(mainQueue) {}
+
+    void post(Task task) override;
+
+    /// Main thread only. Runs `done` on the main queue once the program is at rest.
+    void whenIdle(Task done);
+
+private:
+    GlobalQueue &queue_;
+    MainQueue &mainQueue_;
+    std::shared_ptr<std::atomic<int>> running_ = std::make_shared<std::atomic<int>>(0);
+};
+
+/// Counts the reads that an endpoint did not answer as it should, which the state objects, by rule, only log.
+class ReadWatch : public UrlReader {
+public:
+    explicit ReadWatch(UrlReader &reader) : reader_(reader) {}
+
+    Result<UrlResponse> read(const UrlRequest &request) override;
+
+    /// Reads that ended in an error or with a status of 400 and above.
+    int failures() const { return failures_; }
+
+private:
+    UrlReader &reader_;
+    std::atomic<int> failures_ = 0;
+};
+
+} // namespace orl

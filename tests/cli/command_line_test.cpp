@@ -1,0 +1,53 @@
+#include "cli/command_line.h"
+
+#include <gtest/gtest.h>
+
+namespace orl {
+namespace {
+
+struct Case {
+    const char *name;
+    QStringList arguments;
+    QString error; ///< empty: the line is accepted
+};
+
+TEST(CommandLineTest, RejectsWrongUseInWords) {
+    const Case cases[] = {
+        {"a term is optional", {"countries"}, {}},
+        {"a term", {"countries", "ger"}, {}},
+        {"two terms", {"countries", "united", "states"}, "usage: orl-cli countries [TERM]"},
+        {"no command", {}, "a command is missing"},
+        {"options alone", {"--json"}, "a command is missing"},
+        {"unknown command", {"number", "France"}, "unknown command \"number\""},
+        {"a country is needed", {"numbers"}, "usage: orl-cli numbers COUNTRY"},
+        {"a number is needed", {"messages", "France"}, "usage: orl-cli messages COUNTRY NUMBER [--watch]"},
+        {"watch elsewhere", {"numbers", "France", "--watch"}, "--watch goes with messages only"},
+        {"unknown option", {"numbers", "France", "--fast"}, "Unknown option 'fast'."},
+        {"a file is needed", {"countries", "--endpoints"}, "Missing value after '--endpoints'."},
+    };
+    for (const Case &row : cases) {
+        SCOPED_TRACE(row.name);
+        const Result<CommandLine> line = CommandLine::parse(QStringList{"orl-cli"} + row.arguments);
+        EXPECT_EQ(line.ok() ? QString() : line.error().description, row.error);
+    }
+}
+
+TEST(CommandLineTest, TakesOptionsAnywhere) {
+    const Result<CommandLine> line = CommandLine::parse(
+        {"orl-cli", "--json", "messages", "--endpoints", "here", "France", "--watch", "+33 6"});
+    ASSERT_TRUE(line.ok());
+    EXPECT_EQ(line.value().command, CommandLine::Command::Messages);
+    EXPECT_EQ(line.value().arguments, (QStringList{"France", "+33 6"}));
+    EXPECT_TRUE(line.value().json);
+    EXPECT_TRUE(line.value().watch);
+    EXPECT_EQ(line.value().endpointsFile, "here");
+}
+
+TEST(CommandLineTest, HelpNeedsNoCommand) {
+    EXPECT_EQ(CommandLine::parse({"orl-cli", "--help"}).value().command, CommandLine::Command::Help);
+    EXPECT_EQ(CommandLine::parse({"orl-cli", "messages", "-h"}).value().command, CommandLine::Command::Help);
+    EXPECT_EQ(CommandLine::parse({"orl-cli", "--version"}).value().command, CommandLine::Command::Version);
+}
+
+} // namespace
+} // namespace orl
