@@ -77,8 +77,10 @@ QStringList iconNames() {
 }
 
 Reply icon(const QString &fileName) {
-    const QString name = fileName.chopped(4);
-    if (!fileName.endsWith(u".jpg"_s) || !iconNames().contains(name)) return notFoundPage();
+    static const QString suffix = u".jpg"_s;
+    if (!fileName.endsWith(suffix)) return notFoundPage();
+    const QString name = fileName.chopped(suffix.size());
+    if (!iconNames().contains(name)) return notFoundPage();
     return {200, "image/jpeg", senderIcon(name)};
 }
 

@@ -5,6 +5,9 @@
 #include "server.h"
 
 #include <QDateTime>
+#include <QThread>
+
+#include <future>
 
 using namespace Qt::StringLiterals;
 
@@ -48,32 +51,48 @@ struct DemoHost::World {
     Unserved unserved;
     Probe probe;
     demo::FaultTable faults;
-    std::unique_ptr<demo::Server> server; ///< made and destroyed on the host's thread
+};
+
+/// Serves from start() until it is destroyed.
+class DemoHost::Thread : public QThread {
+public:
+    Thread(World &world, const DemoHostOptions &options) : world_(world), options_(options) {
+        setObjectName(u"demo host"_s);
+    }
+
+    ~Thread() override {
+        quit();
+        wait();
+    }
+
+    /// The port it listens on once it serves, 0 if it cannot.
+    std::future<quint16> port() { return port_.get_future(); }
+
+protected:
+    void run() override {
+        demo::Server server(world_.services(), world_.first, world_.faults, options_.clock);
+        port_.set_value(server.open(options_.port));
+        exec();
+    }
+
+private:
+    World &world_;
+    const DemoHostOptions &options_;
+    std::promise<quint16> port_;
 };
 
 DemoHost::DemoHost(DemoHostOptions options)
     : options_(std::move(options)), world_(std::make_unique<World>(options_.seed)) {
     if (!options_.clock) options_.clock = systemSeconds;
-    thread_.setObjectName(u"demo host"_s);
-    onThread_.moveToThread(&thread_);
 }
 
-DemoHost::~DemoHost() {
-    if (!thread_.isRunning()) return;
-    QMetaObject::invokeMethod(
-        &onThread_, [this] { world_->server.reset(); }, Qt::BlockingQueuedConnection);
-    thread_.quit();
-    thread_.wait();
-}
+DemoHost::~DemoHost() = default;
 
 bool DemoHost::start() {
-    thread_.start();
-    const auto open = [this] {
-        world_->server =
-            std::make_unique<demo::Server>(world_->services(), world_->first, world_->faults, options_.clock);
-        port_ = world_->server->open(options_.port);
-    };
-    QMetaObject::invokeMethod(&onThread_, open, Qt::BlockingQueuedConnection);
+    thread_ = std::make_unique<Thread>(*world_, options_);
+    auto port = thread_->port();
+    thread_->start();
+    port_ = port.get();
     return port_ != 0;
 }
 

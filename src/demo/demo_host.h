@@ -4,8 +4,6 @@
 #include "fault.h"
 #include "platform/endpoints.h"
 
-#include <QThread>
-
 #include <functional>
 #include <memory>
 
@@ -45,11 +43,11 @@ public:
 
 private:
     struct World;
+    class Thread;
 
     DemoHostOptions options_;
     std::unique_ptr<World> world_;
-    QThread thread_;
-    QObject onThread_; ///< lives on thread_: what is invoked on it runs there
+    std::unique_ptr<Thread> thread_;
     quint16 port_ = 0;
 };
 

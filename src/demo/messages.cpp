@@ -16,7 +16,8 @@ namespace orl::demo {
 namespace {
 
 constexpr qint64 second = 1'000'000;
-constexpr qint64 day = 24 * 3600 * second;
+constexpr qint64 hour = 3600 * second;
+constexpr qint64 day = 24 * hour;
 
 qint64 floorDivided(qint64 value, qint64 divisor) {
     const qint64 quotient = value / divisor;
@@ -125,7 +126,7 @@ const QString &pickSkewed(const std::vector<QString> &list, Random &random) {
 MessageSchedule::MessageSchedule(quint64 seed, const Number &number)
     : seed_(mix(seed, number.digits)), languages_(number.languages) {
     Random random(seed_);
-    slotLength_ = number.quiet ? 6 * 3600 * second : 7 * second;
+    slotLength_ = number.quiet ? 6 * hour : 7 * second;
     spread_ = slotLength_ * 5 / 7;
     phase_ = static_cast<qint64>(random.next() % static_cast<quint64>(slotLength_));
     pageSize_ = 9 + random.below(4);
@@ -188,7 +189,7 @@ QString ageInWords(qint64 microseconds) {
     static constexpr std::array<Unit, 6> units{{{365 * day, u"year"},
                                                 {30 * day, u"month"},
                                                 {day, u"day"},
-                                                {3600 * second, u"hour"},
+                                                {hour, u"hour"},
                                                 {60 * second, u"minute"},
                                                 {second, u"second"}}};
     for (const Unit &unit : units) {

@@ -22,7 +22,7 @@ QList<QJsonObject> localCatalogue() {
     const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
     EXPECT_EQ(error.error, QJsonParseError::NoError) << qPrintable(error.errorString());
     QList<QJsonObject> countries;
-    for (const QJsonValue &value : document.array())
+    for (const auto &value : document.array())
         countries << value.toObject();
     return countries;
 }

@@ -79,7 +79,7 @@ TEST_F(DocumentsTest, EveryListedIconIsAPicture) {
     const QJsonArray icons = json(u"/KeLo/OnlineSMS/icons.json"_s).array();
     EXPECT_GT(icons.size(), 8);
     QByteArray previous;
-    for (const QJsonValue &icon : icons) {
+    for (const auto &icon : icons) {
         const QString name = icon.toString();
         EXPECT_EQ(name, name.toLower());
         const Answer answer = played.get(u"/config/KeLo/OnlineSMS/SendersIcon/%1.jpg"_s.arg(name));
@@ -95,7 +95,7 @@ TEST_F(DocumentsTest, EveryListedIconIsAPicture) {
 TEST_F(DocumentsTest, SecondWebsiteCountriesLeadToPages) {
     const QJsonArray countries = json(u"/KeLo/Android/tpn_site_countries.json"_s).array();
     EXPECT_GE(countries.size(), 8);
-    for (const QJsonValue &value : countries) {
+    for (const auto &value : countries) {
         const QJsonObject country = value.toObject();
         EXPECT_EQ(country.keys(),
                   (QStringList{u"continent"_s, u"domain"_s, u"format"_s, u"icon"_s, u"name"_s, u"prefix"_s}));

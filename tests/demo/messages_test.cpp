@@ -179,7 +179,7 @@ TEST(AgeInWordsTest, NamesTheLargestWholeUnit) {
     for (const Case &age :
          {Case{0, u"0 seconds ago"}, Case{1, u"1 second ago"}, Case{59, u"59 seconds ago"},
           Case{60, u"1 minute ago"}, Case{3599, u"59 minutes ago"}, Case{7200, u"2 hours ago"},
-          Case{86400, u"1 day ago"}, Case{40 * 86400, u"1 month ago"}, Case{800 * 86400, u"2 years ago"}})
+          Case{86400, u"1 day ago"}, Case{40 * 86400LL, u"1 month ago"}, Case{800 * 86400LL, u"2 years ago"}})
         EXPECT_EQ(ageInWords(age.seconds * 1'000'000), QString::fromUtf16(age.words));
 }
 
