@@ -27,7 +27,7 @@ struct UrlResponse {
 /// Reads whole resources. TLS is verified, redirects stay within http(s), a body above 16 MiB is an error.
 class UrlReader {
 public:
-    static constexpr qint64 maxBodyBytes = 16 * 1024 * 1024;
+    static constexpr qint64 maxBodyBytes = qint64{16} * 1024 * 1024;
 
     virtual ~UrlReader() = default;
 

@@ -16,7 +16,7 @@ namespace orl {
 
 namespace {
 
-constexpr std::size_t stackBytes = 1024 * 1024;
+constexpr std::size_t stackBytes = std::size_t{1024} * 1024;
 
 /// Thrown out of `suspend` into a fiber that is thrown away.
 struct Unwinding {};

@@ -69,7 +69,7 @@ QByteArray PlayedUrls::key(const QString &url) {
 Result<UrlResponse> PlayedUrls::next(const QByteArray &url) {
     Script &script = scripts_[url];
     if (!script.once.empty()) {
-        const Answer answer = script.once.front();
+        Answer answer = script.once.front();
         script.once.pop_front();
         return answer;
     }

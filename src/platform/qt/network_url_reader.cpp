@@ -189,7 +189,7 @@ Result<UrlResponse> NetworkUrlReader::read(const UrlRequest &request) {
 std::shared_ptr<NetworkUrlReader::Job> NetworkUrlReader::begin(const UrlRequest &request) {
     const std::lock_guard lock(mutex_);
     if (stopped_) return nullptr;
-    const auto job = std::make_shared<Job>();
+    auto job = std::make_shared<Job>();
     jobs_.insert(job);
     queue_.post([loader = loader_, request, job] { loader->load(request, job); });
     return job;

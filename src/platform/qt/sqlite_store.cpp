@@ -125,7 +125,7 @@ SqliteStore::SqliteStore(QString path, Console &console, std::chrono::millisecon
     open();
 }
 
-SqliteStore::~SqliteStore() {
+SqliteStore::~SqliteStore() { // NOLINT(bugprone-exception-escape): only memory can run out here
     if (unsaved_.empty()) return;
     const QString wrong = save(unsaved_);
     if (!wrong.isEmpty()) tell(QStringLiteral("%1 values are lost: %2").arg(unsaved_.size()).arg(wrong));
@@ -227,7 +227,7 @@ QString SqliteStore::save(const Changes &changes) {
     if ((!prepared_ && prepare() != SQLITE_OK) || !run("BEGIN IMMEDIATE")) return problem();
     const auto write = [this](const auto &change) { return this->write(change.first, change.second); };
     if (std::ranges::all_of(changes, write) && run("COMMIT")) return {};
-    const QString wrong = problem();
+    QString wrong = problem();
     run("ROLLBACK");
     return wrong;
 }

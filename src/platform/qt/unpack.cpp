@@ -7,7 +7,7 @@ namespace orl {
 namespace {
 
 constexpr int gzipOrZlib = 32 + MAX_WBITS; // zlib tells the two apart by their first bytes
-constexpr qsizetype piece = 64 * 1024;
+constexpr qsizetype piece = qsizetype{64} * 1024;
 
 struct Stream : z_stream {
     Stream() : z_stream{} { inflateInit2(this, gzipOrZlib); }
