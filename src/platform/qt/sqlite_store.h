@@ -23,7 +23,7 @@ public:
     /// Missing folders of the path are made, for the owner alone. `patience` is how long a read or write
     /// waits for another process.
     SqliteStore(QString path, Console &console, std::chrono::milliseconds patience = std::chrono::seconds(2));
-    ~SqliteStore() override;
+    ~SqliteStore() override; // NOLINT(bugprone-exception-escape)
 
     std::optional<StoredValue> value(const QString &key) const override;
     void setValue(const QString &key, const StoredValue &value) override;
