@@ -15,7 +15,8 @@ public:
     /// The bytes of a resource such as "countries.json"; nothing when there is no such file.
     virtual std::optional<QByteArray> resource(const QString &name) const = 0;
 
-    /// An info value such as "CFBundleShortVersionString" or "CFBundleDisplayName"; nothing when it is missing.
+    /// An info value such as "CFBundleShortVersionString" or "CFBundleDisplayName"; nothing when it is
+    /// missing.
     virtual std::optional<QString> infoValue(const QString &key) const = 0;
 };
 

@@ -13,8 +13,8 @@ namespace orl {
 /// What a key may hold. A read of another type than was written gives nothing.
 using StoredValue = std::variant<QByteArray, qint64, bool, QString, double>;
 
-/// The keyed values that survive a restart. Usable from any thread. A value is the old one or the new one after a
-/// kill at any moment.
+/// The keyed values that survive a restart. Usable from any thread. A value is the old one or the new one
+/// after a kill at any moment.
 class DefaultsStore {
 public:
     virtual ~DefaultsStore() = default;

@@ -10,8 +10,8 @@
 
 namespace orl {
 
-/// One run of the program. Everything that is process-wide hangs here instead of in globals, so that a test makes a
-/// second Process on the same store and has restarted the phone.
+/// One run of the program. Everything that is process-wide hangs here instead of in globals, so that a test
+/// makes a second Process on the same store and has restarted the phone.
 class Process {
 public:
     explicit Process(Platform platform) : platform_(std::move(platform)) {}
@@ -20,8 +20,8 @@ public:
 
     const Platform &platform() const { return platform_; }
 
-    /// The shared instance of T, made from this process at first use. Callable from any thread; T's constructor may
-    /// ask for other shared instances.
+    /// The shared instance of T, made from this process at first use. Callable from any thread; T's
+    /// constructor may ask for other shared instances.
     template<class T>
     T &shared() {
         const std::lock_guard lock(mutex_);

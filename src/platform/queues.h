@@ -26,11 +26,12 @@ public:
     virtual void postAfter(std::chrono::milliseconds delay, Task task) = 0;
 
     /// Main thread only. The first tick comes one interval from now.
-    [[nodiscard]] virtual std::unique_ptr<RepeatingTimer> every(std::chrono::milliseconds interval, Task tick) = 0;
+    [[nodiscard]] virtual std::unique_ptr<RepeatingTimer> every(std::chrono::milliseconds interval,
+                                                                Task tick) = 0;
 };
 
-/// The queue of default priority for blocking work. Many items may sleep in network reads at once, so the adapter
-/// allows far more threads than there are cores.
+/// The queue of default priority for blocking work. Many items may sleep in network reads at once, so the
+/// adapter allows far more threads than there are cores.
 class GlobalQueue {
 public:
     virtual ~GlobalQueue() = default;

@@ -22,7 +22,8 @@ public:
     /// Whether a target can be made of this text at all.
     virtual bool canTarget(const QString &name) const = 0;
 
-    /// A combination of ReachabilityFlag, or nothing where reading fails. Answers at once, without a name look-up.
+    /// A combination of ReachabilityFlag, or nothing where reading fails. Answers at once, without a name
+    /// look-up.
     virtual std::optional<unsigned> flags(const QString &name) const = 0;
 };
 

@@ -6,8 +6,8 @@
 
 namespace orl {
 
-/// A value that one thread replaces while others read it. A reader gets an immutable copy that stays as it is; two
-/// reads may see two different values.
+/// A value that one thread replaces while others read it. A reader gets an immutable copy that stays as it
+/// is; two reads may see two different values.
 template<class T>
 class Snapshot {
 public:

@@ -1,8 +1,9 @@
 #include "numbers/scraping_utils.h"
 #include "numbers_phone.h"
 
-#include <gtest/gtest.h>
 #include <orl/html/parser.h>
+
+#include <gtest/gtest.h>
 
 namespace orl {
 
