@@ -129,8 +129,7 @@ void RequestViewModel::Worker::appendMatches(CountryList::Filling filling, const
     }
 }
 
-// In force at once, while a main task that is under way still may read the list; told behind that task and
-// ahead of the appends that follow.
+// In force at once for every reader, but told on the main queue, ahead of the appends that follow.
 CountryList::Filling RequestViewModel::Worker::replaceCountries(const QList<Country> &list) const {
     const CountryList::Filling filling = state->countries.replace(list);
     onMain([](RequestViewModel &object) { Q_EMIT object.countriesChanged(); });
