@@ -35,14 +35,15 @@ struct Unit {
     qint64 seconds;
 };
 
+constexpr qint64 minute = 60;
+constexpr qint64 hour = 60 * minute;
+constexpr qint64 day = 24 * hour;
+constexpr qint64 month = 30 * day;
+
 // In the order in which they are tried; "second" and "minute" hold the short words.
-constexpr std::array units{Unit{"sec", 1},
-                           Unit{"min", 60},
-                           Unit{"hour", 60 * 60},
-                           Unit{"day", 24 * 60 * 60},
-                           Unit{"week", 7 * 24 * 60 * 60},
-                           Unit{"month", 30 * 24 * 60 * 60},
-                           Unit{"year", 12 * 30 * 24 * 60 * 60}};
+constexpr std::array units{Unit{"sec", 1},          Unit{"min", minute},   Unit{"hour", hour},
+                           Unit{"day", day},        Unit{"week", 7 * day}, Unit{"month", month},
+                           Unit{"year", 12 * month}};
 
 qint64 secondsPerUnit(const QString &phrase) {
     for (const Unit &unit : units) {

@@ -15,7 +15,7 @@ struct ChoiceTest : NumbersTest {
     const Country norway = test::country(QStringLiteral("Norway"));
 
     PhoneNumber choose(const QString &number, bool returnHome = false) {
-        const PhoneNumber chosen = test::phoneNumber(number);
+        PhoneNumber chosen = test::phoneNumber(number);
         numbers->chooseNumber(norway, chosen, returnHome);
         phone.settle();
         return chosen;

@@ -9,7 +9,6 @@ namespace {
 using test::contents;
 using test::manySms;
 using test::names;
-using test::Sms;
 
 struct PipelineTest : NumbersTest {
     Message message(const QString &sender, const QString &content = QStringLiteral("text")) {

@@ -14,7 +14,6 @@ namespace {
 
 using test::country;
 using test::countryElement;
-using test::Sms;
 
 /// The thread of the test as the main thread. Delayed tasks are dropped: there is no time here.
 class RealMainQueue : public MainQueue {

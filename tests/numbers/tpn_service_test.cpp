@@ -8,7 +8,6 @@ namespace orl {
 namespace {
 
 using test::element;
-using test::names;
 
 QByteArray chat(const QByteArray &name, const QByteArray &time, const QByteArray &text) {
     return element("direct-chat-msg left", element("direct-chat-name", name) +
