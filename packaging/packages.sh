@@ -17,7 +17,7 @@ run_packages=(
 test_packages=(
     libgtest-dev libgmock-dev qml6-module-qttest
     clang clang-format libclang-rt-14-dev
-    dbus xvfb xauth
+    dbus xvfb at-spi2-core xdotool
 )
 
 # ensure_packages NAME...: installs what is missing, and asks apt nothing where nothing is.

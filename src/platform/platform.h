@@ -1,8 +1,10 @@
 #pragma once
 
+#include "platform/browser.h"
 #include "platform/endpoints.h"
 #include "platform/haptics.h"
 #include "platform/notification_center.h"
+#include "platform/pasteboard.h"
 
 #include <QString>
 
@@ -40,6 +42,8 @@ struct Platform {
     Endpoints endpoints;
     NotificationCenter &notifications = NoNotificationCenter::instance();
     Haptics &haptics = NoHaptics::instance();
+    Pasteboard &pasteboard = NoPasteboard::instance();
+    Browser &browser = NoBrowser::instance();
 };
 
 } // namespace orl

@@ -169,7 +169,8 @@ struct NameKey {
     bool operator==(const NameKey &) const = default;
 };
 
-/// Names of at most 16 bytes that are known from the start: an open table of small numbers, half empty at least.
+/// Names of at most 16 bytes that are known from the start: an open table of small numbers, half empty at
+/// least.
 template<std::size_t Size>
 struct KeyTable {
     static constexpr unsigned shift = 64 - std::bit_width(Size - 1);
@@ -182,7 +183,8 @@ struct KeyTable {
     }
     void insert(NameKey key, std::size_t id) {
         std::size_t i = place(key);
-        while (ids[i]) i = (i + 1) % Size;
+        while (ids[i])
+            i = (i + 1) % Size;
         keys[i] = key;
         ids[i] = std::uint16_t(id + 1);
     }

@@ -134,8 +134,8 @@ inline const char *toEscape(const char *p, const char *end) {
     return p;
 }
 
-/// The start of a tag or of an attribute: how long the name is, and whether it is all lower-case ASCII. Names of 16
-/// bytes and more are not measured: their length is 16, and they are not plain.
+/// The start of a tag or of an attribute: how long the name is, and whether it is all lower-case ASCII. Names
+/// of 16 bytes and more are not measured: their length is 16, and they are not plain.
 struct Name {
     std::size_t length;
     bool plain;

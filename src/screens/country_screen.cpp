@@ -1,0 +1,75 @@
+#include "screens/country_screen.h"
+
+#include "config/internet_view_model.h"
+#include "numbers/request_view_model.h"
+#include "screens/country_sections.h"
+
+namespace orl {
+
+CountryScreen::CountryScreen(Process &process, RequestViewModel &request, InternetViewModel &internet,
+                             bool firstSetup, QObject *parent)
+    : QObject(parent),
+      process_(process),
+      request_(request),
+      internet_(internet),
+      firstSetup_(firstSetup),
+      rows_({"name", "prefix", "flag", "continent"}) {
+    connect(&request_, &RequestViewModel::countriesChanged, this, &CountryScreen::showCountries);
+    connect(&internet_, &InternetViewModel::isConnectedChanged, this, &CountryScreen::stateChanged);
+    showCountries();
+}
+
+void CountryScreen::setSearchTerm(const QString &term) {
+    if (term == searchTerm_) return;
+    searchTerm_ = term;
+    Q_EMIT searchTermChanged();
+    showCountries();
+}
+
+CountryScreen::State CountryScreen::state() const {
+    if (!request_.countries().isEmpty()) return State::Sections;
+    return internet_.isConnected() ? State::Fetching : State::NotConnected;
+}
+
+void CountryScreen::showCountries() {
+    const QList<Country> all = request_.countries();
+    shown_.clear();
+    QList<KeyedListModel::Row> rows;
+    for (const Continents continent : allContinents()) {
+        const QString title = continentTitle(continent);
+        for (const Country &country : filteredCountries(all, searchTerm_, title.toLower())) {
+            shown_ << country;
+            rows << KeyedListModel::Row{country.name, {country.name, country.prefix, country.icon, title}};
+        }
+    }
+    noResults_ = findsNothing(all, searchTerm_);
+    rows_.setRows(rows);
+    Q_EMIT contentChanged();
+    Q_EMIT stateChanged();
+}
+
+void CountryScreen::tap(int row) {
+    if (row < 0 || row >= shown_.size() || isPresented_) return;
+    numbers_.reset(new PhoneNumberView(process_, request_, shown_[row], firstSetup_));
+    connect(numbers_.get(), &PhoneNumberView::left, this, [this] {
+        setIsPresented(false);
+        Q_EMIT numberChosen();
+    });
+    Q_EMIT numbersChanged();
+    setIsPresented(true);
+    numbers_->load();
+}
+
+void CountryScreen::setIsPresented(bool presented) {
+    isPresented_ = presented;
+    Q_EMIT isPresentedChanged();
+}
+
+void CountryScreen::setTryAgain(const QUuid &signal) {
+    if (signal == tryAgain_) return;
+    tryAgain_ = signal;
+    internet_.checkConnection();
+    if (internet_.isConnected()) request_.fetchCountries();
+}
+
+} // namespace orl

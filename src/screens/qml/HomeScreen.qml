@@ -1,0 +1,100 @@
+// Delegates reach the screen by its id, which this lint takes for a name from nowhere.
+// qmllint disable unqualified
+import QtQuick
+import Orl.Screens
+
+// The first tab: the number, its messages, and other numbers of the country.
+Item {
+    id: root
+    required property HomeView view
+
+    Component.onCompleted: view.appear()
+
+    ListView {
+        id: list
+        readonly property bool bySender: root.view.bySender
+
+        // In this order, as the rows of one layout do not fit the cards of the other.
+        function layOut() {
+            model = null;
+            delegate = bySender ? senderCard : messageCard;
+            model = bySender ? root.view.senders : root.view.messages;
+        }
+        onBySenderChanged: layOut()
+
+        // Until the user scrolls, the top stays in sight whatever grows above it or comes in.
+        property bool atTop: true
+        Timer {
+            id: settle
+            interval: 0
+            onTriggered: if (list.atTop) list.positionViewAtBeginning()
+        }
+        onMovementStarted: atTop = false
+        onMovementEnded: atTop = atYBeginning
+        onCountChanged: settle.restart()
+        onWidthChanged: settle.restart()
+        Component.onCompleted: layOut()
+        anchors.top: parent.top
+        anchors.bottom: parent.bottom
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: Math.min(parent.width, Theme.columnWidth) - 2 * Theme.margin
+        visible: !countries.covers
+        enabled: !root.view.countriesPresented
+        focus: true
+        spacing: Theme.space2
+        cacheBuffer: 4 * Theme.phoneHeight
+        boundsBehavior: Flickable.StopAtBounds
+        header: HomeHeader {
+            width: list.width
+            view: root.view
+            onHeightChanged: settle.restart()
+        }
+        footer: Column {
+            width: list.width
+            bottomPadding: Theme.margin
+            HomeState {
+                width: parent.width
+                view: root.view
+            }
+            SimilarNumbers {
+                width: parent.width
+                view: root.view
+            }
+        }
+        displaced: Transition { NumberAnimation { property: "y"; duration: Theme.travel; easing.type: Easing.OutCubic } }
+        add: Transition { NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Theme.motion } }
+        Accessible.role: Accessible.List
+        Accessible.name: "Messages"
+    }
+    Component {
+        id: messageCard
+        MessageCard {
+            width: ListView.view.width
+            onExportTapped: entry => root.view.tapExport(entry)
+        }
+    }
+    Component {
+        id: senderCard
+        SenderCard { width: ListView.view.width }
+    }
+    NumberChoiceDialogs {
+        anchors.fill: parent
+        choice: root.view.choice
+    }
+    Sheet {
+        visible: root.view.isOffline
+        title: "No internet connection"
+        message: "Please check your internet and try again"
+        yes: "OK"
+        onAccepted: root.view.dismissOffline()
+        onRejected: root.view.dismissOffline()
+    }
+    SlideOver {
+        id: countries
+        anchors.fill: parent
+        shown: root.view.countriesPresented
+        onDismissed: root.view.closeCountries()
+        source: "CountriesScreen.qml"
+        view: root.view.countries
+    }
+}

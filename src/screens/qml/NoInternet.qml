@@ -1,0 +1,6 @@
+StateMessage {
+    drawing: "no_internet"
+    title: "Whoops!"
+    sentence: "Please check your connection\nand try again"
+    button: "Try again!"
+}

@@ -1,0 +1,25 @@
+import QtQuick
+import Orl.Screens
+
+// The confirmation and the limit alert of a list of numbers.
+Item {
+    id: root
+    required property NumberChoice choice
+
+    Sheet {
+        visible: root.choice.confirmationSheet
+        title: root.choice.title
+        message: root.choice.message
+        yes: root.choice.confirmTitle
+        no: "Cancel"
+        onAccepted: root.choice.confirm()
+        onRejected: root.choice.cancel()
+    }
+    Sheet {
+        visible: root.choice.showLimitAlert
+        title: root.choice.limitTitle
+        message: root.choice.limitMessage
+        no: "Cancel"
+        onRejected: root.choice.dismissLimit()
+    }
+}

@@ -1,0 +1,88 @@
+import QtQuick
+import QtQuick.Layouts
+import Orl.Screens
+
+// The current number. The whole card copies it; its one other button changes it.
+Pressable {
+    id: root
+    required property HomeView view
+
+    text: "Copy number " + view.number
+    cornerRadius: Theme.cardRadius
+    padding: Theme.space4
+    topPadding: Theme.space2
+    Accessible.description: view.countryName + ". Tap to copy!"
+    onClicked: view.copyNumber()
+
+    background: Rectangle {
+        radius: Theme.cardRadius
+        gradient: Gradient {
+            orientation: Gradient.Horizontal
+            GradientStop { position: 0; color: root.view.cardLight }
+            GradientStop { position: 1; color: root.view.cardDark }
+        }
+        Rectangle {
+            anchors.fill: parent
+            radius: Theme.cardRadius
+            color: root.view.cardVeil
+        }
+    }
+    contentItem: ColumnLayout {
+        spacing: Theme.space1
+        GridLayout {
+            columns: Theme.large ? 2 : 3
+            columnSpacing: Theme.space2
+            rowSpacing: 0
+            Flag { code: root.view.flag }
+            Words {
+                text: root.view.countryName
+                color: root.view.cardInk
+                font.pixelSize: Theme.rowSize
+                font.weight: Font.DemiBold
+                Layout.fillWidth: true
+                Accessible.ignored: true
+            }
+            QuietButton {
+                filled: true
+                Layout.columnSpan: Theme.large ? 2 : 1
+                text: "change"
+                ink: root.view.cardInk
+                Accessible.name: "Change number"
+                onClicked: root.view.openCountries()
+            }
+        }
+        Words {
+            text: root.view.number
+            color: root.view.cardInk
+            font.pixelSize: Theme.titleSize * 1.15
+            font.weight: Font.Bold
+            font.letterSpacing: Theme.numberSpacing
+            wrapMode: Text.NoWrap
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: Theme.captionSize / 2
+            Layout.fillWidth: true
+            Accessible.ignored: true
+        }
+        Words {
+            text: "Tap to copy!"
+            color: root.view.cardInk
+            Layout.fillWidth: true
+            Accessible.ignored: true
+        }
+        RowLayout {
+            spacing: Theme.space2
+            Layout.topMargin: Theme.space2
+            Symbol {
+                name: "eye"
+                color: root.view.cardInk
+                side: Theme.smallSymbol
+            }
+            Words {
+                text: "Anyone can read the messages of this number."
+                color: root.view.cardInk
+                font.pixelSize: Theme.secondarySize
+                Layout.fillWidth: true
+            }
+        }
+    }
+}

@@ -1,0 +1,58 @@
+import QtQuick
+import QtQuick.Layouts
+
+// What stands where there is nothing to list: a drawing or dots, a title, a sentence, and what can be done.
+Item {
+    id: root
+    property string drawing
+    property string title
+    property string sentence
+    property string button
+    property bool busy: false
+    signal acted
+
+    implicitHeight: column.implicitHeight + 2 * Theme.space6
+    implicitWidth: Theme.leastWidth
+
+    ColumnLayout {
+        id: column
+        anchors.centerIn: parent
+        width: Math.min(parent.width - 2 * Theme.margin, Theme.leastWidth)
+        spacing: Theme.space3
+
+        Image {
+            visible: root.drawing !== ""
+            source: root.drawing === "" ? "" : "qrc:/orl/drawings/" + root.drawing + ".svg"
+            sourceSize { width: Theme.drawing; height: Theme.drawing }
+            Layout.alignment: Qt.AlignHCenter
+            Accessible.ignored: true
+        }
+        Progress {
+            visible: root.busy
+            Layout.alignment: Qt.AlignHCenter
+            Layout.bottomMargin: Theme.space2
+        }
+        Words {
+            visible: text !== ""
+            text: root.title
+            font.pixelSize: Theme.headingSize
+            font.weight: Font.DemiBold
+            horizontalAlignment: Text.AlignHCenter
+            Layout.fillWidth: true
+        }
+        Words {
+            visible: text !== ""
+            text: root.sentence
+            color: Theme.secondary
+            horizontalAlignment: Text.AlignHCenter
+            Layout.fillWidth: true
+        }
+        MainButton {
+            visible: text !== ""
+            text: root.button
+            Layout.alignment: Qt.AlignHCenter
+            Layout.topMargin: Theme.space2
+            onClicked: root.acted()
+        }
+    }
+}

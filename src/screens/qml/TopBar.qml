@@ -1,0 +1,47 @@
+import QtQuick
+import QtQuick.Layouts
+
+// The title of a screen that lies over another one, with the way back. Lists scroll under it.
+Rectangle {
+    id: root
+    property string title
+    property string flag
+    signal backTapped
+
+    implicitHeight: row.implicitHeight + Theme.space2
+    color: Theme.bar
+
+    RowLayout {
+        id: row
+        anchors.verticalCenter: parent.verticalCenter
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.leftMargin: Theme.space1
+        anchors.rightMargin: Theme.margin
+        spacing: Theme.space2
+
+        SymbolButton {
+            symbol: "chevron-left"
+            mirrorsWithLayout: true
+            text: "Back"
+            onClicked: root.backTapped()
+        }
+        Flag {
+            visible: root.flag !== ""
+            code: root.flag
+        }
+        Words {
+            text: root.title
+            font.pixelSize: Theme.headingSize
+            font.weight: Font.DemiBold
+            Layout.fillWidth: true
+            Accessible.role: Accessible.Heading
+        }
+    }
+    Rectangle {
+        anchors.bottom: parent.bottom
+        width: parent.width
+        height: Theme.hairline
+        color: Theme.separator
+    }
+}

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusContext>
+#include <QDBusVariant>
+#include <QObject>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <memory>
+
+namespace orl {
+
+/// The part of a desktop that tells programs its settings; the walk flips between light and dark with it.
+class PlayedPortal : public QObject, protected QDBusContext {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
+public:
+    void setDark(bool dark);
+
+public Q_SLOTS:
+    QDBusVariant Read(const QString &group, const QString &key);
+
+Q_SIGNALS:
+    void SettingChanged(const QString &group, const QString &key, const QDBusVariant &value);
+
+private:
+    bool dark_ = false;
+};
+
+/// A desktop of the walk's own, gone when it is destroyed: an X server without a screen, a session bus with
+/// the accessibility services on it, and a home folder.
+class Desk {
+public:
+    Desk();
+    ~Desk();
+    Desk(const Desk &) = delete;
+    Desk &operator=(const Desk &) = delete;
+
+    /// Empty while all is well.
+    const QString &problem() const { return problem_; }
+
+    /// What a program needs to run here.
+    QProcessEnvironment environment() const { return environment_; }
+
+    QDBusConnection accessibilityBus() const;
+    PlayedPortal &portal() { return portal_; }
+
+    /// Runs a small program here to its end; what it printed.
+    QString run(const QString &program, const QStringList &arguments) const;
+
+    /// Starts a program here; it ends with the walk, however the walk ends.
+    std::unique_ptr<QProcess> start(const QString &program, const QStringList &arguments) const;
+
+private:
+    QByteArray firstLineOf(QProcess &service);
+    void connectBuses();
+
+    QTemporaryDir home_;
+    QProcessEnvironment environment_;
+    QString problem_;
+    std::unique_ptr<QProcess> display_, bus_;
+    PlayedPortal portal_;
+};
+
+} // namespace orl

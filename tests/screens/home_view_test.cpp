@@ -1,0 +1,182 @@
+#include "screens/copy_view_model.h"
+#include "screens/home_view.h"
+#include "screens_phone.h"
+
+#include <QSignalSpy>
+
+using namespace orl;
+using namespace std::chrono_literals;
+using test::Sms;
+
+namespace {
+
+using State = HomeView::State;
+
+const QString at = QStringLiteral("2025-12-31T23:50:00.000000Z");
+
+struct HomeTest : ScreensTest {
+    QStringList shown() { return test::texts(*content->home()->messages(), "content"); }
+};
+
+TEST_F(HomeTest, MessagesComeAtOnceAndThenEveryTenSeconds) {
+    HomeView &home = makeHome({{QStringLiteral("A"), QStringLiteral("one"), at}});
+    EXPECT_EQ(home.state(), State::Messages);
+    EXPECT_EQ(shown(), QStringList{QStringLiteral("one")});
+    const qsizetype reads = phone.urls.count(messagesUrl);
+    phone.advance(30s);
+    EXPECT_EQ(phone.urls.count(messagesUrl), reads + 3);
+}
+
+TEST_F(HomeTest, RefreshKeepsTheRowsThatAreStillThere) {
+    HomeView &home = makeHome({{QStringLiteral("A"), QStringLiteral("one"), at}});
+    const QPersistentModelIndex one = home.messages()->index(0);
+    QSignalSpy inserted(home.messages(), &QAbstractItemModel::rowsInserted);
+    QSignalSpy removed(home.messages(), &QAbstractItemModel::rowsRemoved);
+    answerMessages(
+        {{QStringLiteral("B"), QStringLiteral("two"), at}, {QStringLiteral("A"), QStringLiteral("one"), at}});
+    phone.advance(10s);
+    EXPECT_EQ(shown(), (QStringList{QStringLiteral("two"), QStringLiteral("one")}));
+    EXPECT_TRUE(one.isValid());
+    EXPECT_EQ(one.row(), 1);
+    EXPECT_EQ(inserted.count(), 1);
+    EXPECT_EQ(removed.count(), 0);
+}
+
+TEST_F(HomeTest, NewListShowsTrueAgesAgain) {
+    HomeView &home = makeHome({{QStringLiteral("A"), QStringLiteral("one"), at}});
+    EXPECT_EQ(home.messages()->value(0, "age"), QStringLiteral("10 minutes ago"));
+    phone.advance(120s);
+    EXPECT_EQ(home.messages()->value(0, "age"), QStringLiteral("16 minutes ago"));
+    answerMessages(
+        {{QStringLiteral("B"), QStringLiteral("two"), at}, {QStringLiteral("A"), QStringLiteral("one"), at}});
+    phone.advance(10s);
+    EXPECT_EQ(home.messages()->value(1, "age"), QStringLiteral("12 minutes ago"));
+}
+
+TEST_F(HomeTest, AdSlotsTakeNoRow) {
+    makeHome();
+    setAds(true);
+    answerMessages(
+        {{QStringLiteral("A"), QStringLiteral("one"), at}, {QStringLiteral("B"), QStringLiteral("two"), at}});
+    phone.advance(10s);
+    EXPECT_EQ(request().messages().size(), 3);
+    EXPECT_EQ(shown(), (QStringList{QStringLiteral("one"), QStringLiteral("two")}));
+    EXPECT_EQ(test::texts(*content->home()->senders(), "name"),
+              (QStringList{QStringLiteral("A"), QStringLiteral("B")}));
+}
+
+TEST_F(HomeTest, SendersShowTheirNewestMessageAndWhatIsUnread) {
+    HomeView &home = makeHome({{QStringLiteral("A"), QStringLiteral("new"), at},
+                               {QStringLiteral("B"), QStringLiteral("other"), {}},
+                               {QStringLiteral("A"), QStringLiteral("old"), at}});
+    EXPECT_EQ(test::texts(*home.senders(), "content"),
+              (QStringList{QStringLiteral("new"), QStringLiteral("other")}));
+    EXPECT_EQ(test::texts(*home.senders(), "time"), (QStringList{QStringLiteral("23:50"), QString()}));
+    EXPECT_EQ(test::texts(*home.senders(), "unread"),
+              (QStringList{QStringLiteral("2"), QStringLiteral("1")}));
+}
+
+TEST_F(HomeTest, SameSenderWearsTheSameColoursInBothLayouts) {
+    HomeView &home = makeHome({{QStringLiteral("A"), QStringLiteral("1"), at},
+                               {QStringLiteral("B"), QStringLiteral("2"), at},
+                               {QStringLiteral("A"), QStringLiteral("3"), at},
+                               {QStringLiteral("C"), QStringLiteral("4"), at}});
+    const auto face = [](const KeyedListModel *model, int row) {
+        return model->value(row, "face").value<AvatarFace>();
+    };
+    EXPECT_EQ(face(home.messages(), 3), face(home.senders(), 2));
+    EXPECT_EQ(face(home.messages(), 2), face(home.messages(), 0));
+    EXPECT_NE(face(home.messages(), 1), face(home.messages(), 0));
+}
+
+TEST_F(HomeTest, ChangedNumberStartsWithNoMessagesAndFetches) {
+    HomeView &home = makeHome({{QStringLiteral("A"), QStringLiteral("one"), at}});
+    phone.urls.answer(QStringLiteral("https://first.example/en/numbers/15550199"), test::messagePage({}));
+    request().chooseNumber(test::country(QStringLiteral("Norway")),
+                           test::phoneNumber(QStringLiteral("+1 555 0199")), false);
+    EXPECT_EQ(home.state(), State::Loading);
+    EXPECT_EQ(home.number(), QStringLiteral("+1 5550199"));
+    EXPECT_FALSE(home.nothingYet());
+    phone.settle();
+    EXPECT_TRUE(home.nothingYet());
+}
+
+TEST_F(HomeTest, OfflineStartSaysSoAndRetryFetches) {
+    makeHome();
+    restartScreens();
+    phone.reachability.setOnline(false);
+    HomeView &home = *makeContent().home();
+    home.appear();
+    EXPECT_TRUE(home.isOffline());
+    EXPECT_EQ(home.state(), State::Offline);
+    home.dismissOffline();
+    EXPECT_FALSE(home.isOffline());
+    EXPECT_EQ(home.state(), State::Offline);
+
+    const qsizetype reads = phone.urls.count(messagesUrl);
+    home.retry();
+    phone.advance(20s);
+    EXPECT_EQ(phone.urls.count(messagesUrl), reads);
+    phone.reachability.setOnline(true);
+    home.retry();
+    EXPECT_EQ(home.state(), State::Loading);
+    phone.settle();
+    EXPECT_EQ(phone.urls.count(messagesUrl), reads + 1);
+}
+
+TEST_F(HomeTest, MessagesStayWhenTheConnectionGoesAndTellTheirAge) {
+    HomeView &home = makeHome({{QStringLiteral("A"), QStringLiteral("one"), at}});
+    EXPECT_EQ(home.fetchAge(), QString());
+    phone.urls.answer(messagesUrl, Error{QStringLiteral("down")});
+    phone.advance(60s);
+    EXPECT_EQ(home.fetchAge(), QString());
+    int told = 0;
+    QObject::connect(&home, &HomeView::fetchAgeChanged, [&told] { ++told; });
+    phone.advance(70s);
+    EXPECT_GE(told, 7);
+    EXPECT_EQ(home.fetchAge(), QStringLiteral("2 minutes ago"));
+    EXPECT_EQ(home.state(), State::Messages);
+    answerMessages({{QStringLiteral("A"), QStringLiteral("one"), at}});
+    phone.advance(10s);
+    EXPECT_EQ(home.fetchAge(), QString());
+}
+
+TEST_F(HomeTest, RestartShowsTheChosenNumberAndItsMessages) {
+    makeHome({{QStringLiteral("A"), QStringLiteral("one"), at}});
+    restartScreens();
+    HomeView &home = *makeContent().home();
+    EXPECT_EQ(home.number(), QStringLiteral("+1 5550100"));
+    home.appear();
+    phone.settle();
+    EXPECT_EQ(shown(), QStringList{QStringLiteral("one")});
+}
+
+TEST_F(HomeTest, OtherNumbersOfTheCountryLeaveOutTheCurrentOne) {
+    HomeView &home = makeHome();
+    EXPECT_EQ(home.similar()->count(), 0);
+    request().fetchNumbers(*request().currentCountry(), [](const auto &) {});
+    phone.settle();
+    EXPECT_EQ(test::texts(*home.similar(), "number"), QStringList{QStringLiteral("+1 5550199")});
+
+    home.tapSimilar(0);
+    EXPECT_TRUE(home.choice()->confirmationSheet());
+    phone.urls.answer(QStringLiteral("https://first.example/en/numbers/15550199"), test::messagePage({}));
+    home.choice()->confirm();
+    EXPECT_EQ(home.number(), QStringLiteral("+1 5550199"));
+    EXPECT_EQ(test::texts(*home.similar(), "number"), QStringList{QStringLiteral("+1 5550100")});
+}
+
+TEST_F(HomeTest, TapsCopyTheNumberAndCodesAndOpenLinks) {
+    HomeView &home = makeHome();
+    home.copyNumber();
+    EXPECT_EQ(pasteboard.text, QStringLiteral("+1 555 0100"));
+    home.tapExport(QStringLiteral("123456"));
+    EXPECT_EQ(pasteboard.text, QStringLiteral("123456"));
+    EXPECT_TRUE(content->copyVM()->copied());
+    home.tapExport(QStringLiteral("https://a.example/x"));
+    home.tapExport(QStringLiteral("http://[broken"));
+    EXPECT_EQ(browser.opened, QStringList{QStringLiteral("https://a.example/x")});
+    EXPECT_EQ(pasteboard.text, QStringLiteral("123456"));
+}
+
+} // namespace

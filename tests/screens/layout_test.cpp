@@ -1,0 +1,228 @@
+#include "screens/screens.h"
+#include "screens_phone.h"
+
+#include <QGuiApplication>
+#include <QQmlApplicationEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTest>
+
+#include <filesystem>
+
+using namespace orl;
+using test::Sms;
+
+namespace {
+
+/// One way in which a user may have set up the device.
+struct Look {
+    const char *name;
+    int width = 390;
+    int height = 844;
+    bool dark = false;
+    double textScale = 1;
+    bool rightToLeft = false;
+};
+
+void PrintTo(const Look &look, std::ostream *out) {
+    *out << look.name;
+}
+
+constexpr Look looks[] = {
+    {"phone"},
+    {"phone_dark", 390, 844, true},
+    {"narrow", 360, 640},
+    {"narrow_dark_large_text", 360, 640, true, 2},
+    {"large_text", 390, 844, false, 2},
+    {"right_to_left", 390, 844, false, 1, true},
+    {"desktop", 1000, 700},
+};
+
+QStringList complaints;
+
+void noteComplaint(QtMsgType type, const QMessageLogContext &, const QString &text) {
+    if (type != QtDebugMsg && type != QtInfoMsg) complaints << text;
+}
+
+/// Draws the real screens and looks at what can be measured of them. Keeps a picture of each in the folder
+/// "pictures" beside the test.
+class LayoutTest : public ScreensTest, public testing::WithParamInterface<Look> {
+protected:
+    LayoutTest() {
+        complaints.clear();
+        previous_ = qInstallMessageHandler(noteComplaint);
+        appearance.setDark(GetParam().dark);
+        appearance.setTextScale(GetParam().textScale);
+        appearance.setRightToLeft(GetParam().rightToLeft);
+        appearance.setReducedMotion(true);
+    }
+
+    ~LayoutTest() override {
+        engine_.reset();
+        qInstallMessageHandler(previous_);
+    }
+
+    void open() {
+        makeContent();
+        show();
+    }
+
+    void show() {
+        engine_ = std::make_unique<QQmlApplicationEngine>();
+        prepareScreens(*engine_, process->platform());
+        engine_->setInitialProperties({{QStringLiteral("content"), QVariant::fromValue(content.get())}});
+        engine_->load(QUrl(QString::fromLatin1(mainWindow)));
+        window_ = qobject_cast<QQuickWindow *>(engine_->rootObjects().value(0));
+        ASSERT_NE(window_, nullptr) << complaints.join(u'\n').toStdString();
+        window_->resize(GetParam().width, GetParam().height);
+    }
+
+    /// Lets everything arrive, keeps a picture and checks what is on the screen.
+    void look(const char *station) {
+        phone.settle();
+        QTest::qWait(300); // fades and pictures run on the toolkit's own clock
+        phone.settle();
+        QTest::qWait(50);
+        const QImage picture = window_->grabWindow();
+        std::filesystem::create_directories("pictures");
+        picture.save(QStringLiteral("pictures/%1-%2.png")
+                         .arg(QString::fromLatin1(station), QString::fromLatin1(GetParam().name)));
+        SCOPED_TRACE(station);
+        EXPECT_GT(coloursOf(picture), 20) << "a blank screen";
+        check(*window_->contentItem());
+        EXPECT_EQ(std::exchange(complaints, {}).join(u'\n').toStdString(), "");
+    }
+
+private:
+    static int coloursOf(const QImage &picture) {
+        QSet<QRgb> colours;
+        for (int y = 0; y < picture.height(); y += 3) {
+            for (int x = 0; x < picture.width(); x += 3)
+                colours.insert(picture.pixel(x, y));
+        }
+        return int(colours.size());
+    }
+
+    void check(const QQuickItem &item) {
+        if (!item.isVisible() || item.opacity() == 0) return;
+        if (item.inherits("QQuickAbstractButton") || item.inherits("QQuickTextField")) checkControl(item);
+        if (item.inherits("QQuickText")) checkText(item);
+        for (const QQuickItem *child : item.childItems())
+            check(*child);
+    }
+
+    void checkControl(const QQuickItem &control) {
+        const QString name =
+            control.property("text").toString() + control.property("placeholderText").toString();
+        const std::string who = control.metaObject()->className() + (" '" + name.toStdString() + "'");
+        EXPECT_FALSE(name.isEmpty()) << who << " has no name";
+        EXPECT_GE(control.width(), 44) << who;
+        EXPECT_GE(control.height(), 44) << who;
+        checkWithinWindow(control, who);
+    }
+
+    void checkText(const QQuickItem &text) {
+        const std::string who = "text '" + text.property("text").toString().toStdString() + "'";
+        checkWithinWindow(text, who);
+        if (text.property("wrapMode").toInt() != 0)
+            return; // those that do not wrap are elided or fitted on purpose
+        EXPECT_FALSE(text.property("truncated").toBool() && text.property("elide").toInt() == Qt::ElideNone)
+            << who;
+    }
+
+    void checkWithinWindow(const QQuickItem &item, const std::string &who) {
+        const QRectF place = item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
+        EXPECT_GE(place.left(), -0.5) << who;
+        EXPECT_LE(place.right(), window_->width() + 0.5) << who;
+    }
+
+    QtMessageHandler previous_ = nullptr;
+    std::unique_ptr<QQmlApplicationEngine> engine_;
+
+protected:
+    QQuickWindow *window_ = nullptr;
+};
+
+const QList<Sms> lively{
+    {QStringLiteral("Harbourly Pay"),
+     QStringLiteral("482-913 is your code. Or tap https://harbourly.example/v/8Xk2 now."),
+     QStringLiteral("2025-12-31T23:59:30.000000Z")},
+    {QStringLiteral("Kumoboxo"), QStringLiteral("Your access key is 9T2C8ET4. It works once."),
+     QStringLiteral("2025-12-31T23:40:00.000000Z")},
+    {QStringLiteral("+447700900123"),
+     QStringLiteral("مرحبا! رمز التحقق الخاص بك هو 771204. <b>لا تشاركه</b>"),
+     QStringLiteral("2025-12-31T22:00:00.000000Z")},
+    {QStringLiteral("A sender with a name that is long enough to need a second line"),
+     QStringLiteral("Donaudampfschifffahrtselektrizitätenhauptbetriebswerkbauunterbeamtengesellschaft 12"),
+     QStringLiteral("2025-12-20T22:00:00.000000Z")},
+};
+
+TEST_P(LayoutTest, FirstRun) {
+    phone.reachability.setOnline(false);
+    open();
+    look("no-internet");
+
+    phone.reachability.setOnline(true);
+    phone.urls.hold(countriesUrl);
+    content->chooser()->retry();
+    look("fetching-countries");
+    phone.urls.release(countriesUrl);
+    look("countries");
+    content->chooser()->setSearchTerm(QStringLiteral("xyz"));
+    look("no-results");
+    content->chooser()->setSearchTerm({});
+
+    phone.urls.hold(norwayUrl);
+    content->chooser()->tap(1);
+    look("fetching-numbers");
+    phone.urls.release(norwayUrl);
+    look("numbers");
+    phone.urls.answer(norwayUrl, test::numbersPage({}));
+    content->chooser()->numbers()->load();
+    look("no-numbers");
+}
+
+TEST_P(LayoutTest, Home) {
+    makeHome(lively);
+    show();
+    request().fetchNumbers(*request().currentCountry(), [](const auto &) {});
+    look("recent");
+    content->copyVM()->copy(QStringLiteral("482913"));
+    look("copied");
+    phone.advance(std::chrono::seconds(2));
+    content->home()->showSenders();
+    look("senders");
+    content->home()->tapSimilar(0);
+    look("confirmation");
+    content->home()->choice()->cancel();
+    used(3);
+    content->home()->openCountries();
+    look("change-countries");
+}
+
+TEST_P(LayoutTest, HomeWithoutMessages) {
+    makeHome();
+    restartScreens();
+    phone.reachability.setOnline(false);
+    open();
+    look("offline-alert");
+    content->home()->dismissOffline();
+    look("offline");
+    phone.reachability.setOnline(true);
+    phone.urls.hold(messagesUrl);
+    content->home()->retry();
+    look("fetching-messages");
+    phone.urls.release(messagesUrl);
+    look("nothing-yet");
+}
+
+INSTANTIATE_TEST_SUITE_P(Looks, LayoutTest, testing::ValuesIn(looks),
+                         [](const auto &look) { return std::string(look.param.name); });
+
+} // namespace
+
+int main(int argc, char **argv) {
+    QGuiApplication application(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

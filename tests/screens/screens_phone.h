@@ -1,0 +1,105 @@
+#pragma once
+
+#include "numbers/numbers_phone.h"
+#include "platform/browser.h"
+#include "platform/pasteboard.h"
+#include "screens/content_view.h"
+
+#include <QUrl>
+
+namespace orl {
+
+struct PlayedPasteboard : Pasteboard {
+    std::optional<QString> text;
+    void setString(const QString &copied) override { text = copied; }
+};
+
+struct PlayedBrowser : Browser {
+    QStringList opened;
+    void open(const QUrl &url) override { opened << url.toString(); }
+};
+
+namespace test {
+
+inline Country country(const QString &name, const QString &continent, const QString &prefix) {
+    Country made = country(name);
+    made.continent = continent;
+    made.prefix = prefix;
+    return made;
+}
+
+/// What a model shows in one role, from its first row to its last.
+inline QVariantList column(const KeyedListModel &model, const QByteArray &role) {
+    QVariantList values;
+    for (int row = 0; row < model.count(); ++row)
+        values << model.value(row, role);
+    return values;
+}
+
+inline QStringList texts(const KeyedListModel &model, const QByteArray &role) {
+    QStringList values;
+    for (const QVariant &value : column(model, role))
+        values << value.toString();
+    return values;
+}
+
+} // namespace test
+
+/// All screens on a played phone. Its catalogue page lists three countries; "Norway" has two numbers.
+struct ScreensTest : NumbersTest {
+    ScreensTest() {
+        phone.urls.answer(QStringLiteral("https://configuration.example/KeLo/iOS/orl_config.json"), "");
+        phone.urls.answer(QStringLiteral("https://configuration.example/KeLo/OnlineSMS/scraping_config.json"),
+                          "");
+        phone.urls.answer(countriesUrl, test::countryPage(test::countryElement("Niger", "/en/niger") +
+                                                          test::countryElement("Norway", "/en/norway")));
+        phone.urls.answer(norwayUrl, test::numbersPage({"+1 555 0100", "+1 555 0199"}));
+        answerMessages({});
+        restartScreens();
+    }
+
+    ~ScreensTest() override { phone.endProcess(); }
+
+    /// A new run of the program on the same store.
+    void restartScreens() {
+        phone.endProcess();
+        content.reset();
+        const Platform base = playedWith(phone.platform(), notifications, haptics);
+        process = std::make_unique<Process>(Platform{base.clock, base.mainQueue, base.globalQueue,
+                                                     base.urlReader, base.store, base.reachability,
+                                                     base.bundle, base.console, base.fatal, base.endpoints,
+                                                     base.notifications, base.haptics, pasteboard, browser});
+        setAds(false);
+    }
+
+    /// The shell as it first appears, before anything has arrived.
+    ContentView &makeContent() {
+        content = std::make_unique<ContentView>(*process, appearance);
+        content->appear();
+        return *content;
+    }
+
+    RequestViewModel &request() { return content->requestVM(); }
+
+    /// The home screen with a number chosen and its first page of messages shown.
+    HomeView &makeHome(const QList<test::Sms> &messages = {}) {
+        answerMessages(messages);
+        makeContent();
+        phone.settle();
+        request().chooseNumber(test::country(QStringLiteral("Norway"), QStringLiteral("/en/norway")),
+                               test::phoneNumber(QStringLiteral("+1 555 0100")), false);
+        content->home()->appear();
+        phone.settle();
+        return *content->home();
+    }
+
+    void used(qint64 choices) { phone.store.setValue(QStringLiteral("chose_numbers_count_key"), choices); }
+
+    const QString norwayUrl = QStringLiteral("https://first.example/en/norway");
+    PlayedPasteboard pasteboard;
+    PlayedBrowser browser;
+    Appearance appearance;
+    std::unique_ptr<ContentView> content;
+};
+
+} // namespace orl
