@@ -1,0 +1,259 @@
+#include "space.h"
+
+#include "names.h"
+
+#include <algorithm>
+#include <map>
+#include <mutex>
+#include <new>
+#include <set>
+#include <sys/mman.h>
+
+#ifdef ORL_HTML_ASAN
+#include <sanitizer/asan_interface.h>
+#else
+#define ASAN_POISON_MEMORY_REGION(address, size) ((void)(address), (void)(size))
+#define ASAN_UNPOISON_MEMORY_REGION(address, size) ((void)(address), (void)(size))
+#endif
+
+namespace orl::html::core {
+
+char *spaceBase = nullptr;
+
+namespace {
+
+constexpr std::size_t largestSpace = std::size_t(64) << 30;
+constexpr std::size_t maxGranules = largestSpace / granuleSize;
+constexpr std::size_t hotStock = std::size_t(64) << 20; ///< bytes kept ready for the next page
+constexpr std::size_t commitStep = (std::size_t(16) << 20) / granuleSize;
+
+/// The head of a granule that is cut into slots; it stands in the first slot.
+struct SlotGranule {
+    SlotGranule *previous, *next; ///< in the list of those with a free slot
+    struct Free {
+        Free *next;
+    } * free;
+    std::uint32_t used;
+    std::uint32_t untouched; ///< index of the first slot that was never handed out
+};
+constexpr std::uint32_t slotsPerGranule = granuleSize / slotSize;
+
+class Space {
+public:
+    Space();
+
+    std::size_t takeRun(std::size_t count);
+    void giveRun(std::size_t first, std::size_t count);
+    void *takeSlot();
+    void giveSlot(void *slot);
+
+    std::mutex mutex;
+    std::size_t inUse = 0;
+
+private:
+    struct Run {
+        std::size_t count;
+        bool hot; ///< may still have memory behind it
+    };
+    using Runs = std::map<std::size_t, Run>;
+
+    void insert(std::size_t first, Run run);
+    void erase(Runs::iterator run);
+    void commit(std::size_t end);
+    void link(SlotGranule *granule);
+    void unlink(SlotGranule *granule);
+
+    std::size_t granules_ = 0;
+    std::size_t top_ =
+        1; ///< granules below were handed out at least once; the first one has the static names
+    std::size_t committed_ = 0;
+    std::size_t hot_ = 0;
+    Runs free_;
+    std::set<std::pair<std::size_t, std::size_t>> bySize_; ///< (count, first)
+    SlotGranule *slotGranules_ = nullptr;
+};
+
+char *granuleAddress(std::size_t index) {
+    return spaceBase + index * granuleSize;
+}
+
+Space::Space() {
+    for (std::size_t size = largestSpace; size >= granuleSize * 16; size /= 2) {
+        void *memory =
+            mmap(nullptr, size + granuleSize, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+        if (memory == MAP_FAILED) continue;
+        const auto aligned = (std::uintptr_t(memory) + granuleSize - 1) & ~std::uintptr_t(granuleSize - 1);
+        spaceBase = reinterpret_cast<char *>(aligned);
+        granules_ = size / granuleSize;
+        commit(1);
+        return;
+    }
+    throw std::bad_alloc();
+}
+
+void Space::commit(std::size_t end) {
+    if (end <= committed_) return;
+    const std::size_t wanted = std::min(granules_, (end + commitStep - 1) / commitStep * commitStep);
+    if (mprotect(granuleAddress(committed_), (wanted - committed_) * granuleSize, PROT_READ | PROT_WRITE) !=
+        0)
+        throw std::bad_alloc();
+    committed_ = wanted;
+}
+
+void Space::insert(std::size_t first, Run run) {
+    free_.emplace(first, run);
+    bySize_.emplace(run.count, first);
+    if (run.hot) hot_ += run.count * granuleSize;
+}
+
+void Space::erase(Runs::iterator run) {
+    bySize_.erase({run->second.count, run->first});
+    if (run->second.hot) hot_ -= run->second.count * granuleSize;
+    free_.erase(run);
+}
+
+std::size_t Space::takeRun(std::size_t count) {
+    const auto fit = bySize_.lower_bound({count, 0});
+    if (fit == bySize_.end()) {
+        if (count > granules_ - top_) throw std::bad_alloc();
+        commit(top_ + count);
+        const std::size_t first = top_;
+        top_ += count;
+        return first;
+    }
+    const auto found = free_.find(fit->second);
+    const std::size_t first = found->first;
+    const Run run = found->second;
+    erase(found);
+    if (run.count > count) insert(first + count, {run.count - count, run.hot});
+    return first;
+}
+
+void Space::giveRun(std::size_t first, std::size_t count) {
+    Run run{count, true};
+    auto after = free_.lower_bound(first);
+    if (after != free_.end() && after->first == first + count) {
+        run.count += after->second.count;
+        erase(after++);
+    }
+    if (after != free_.begin()) {
+        const auto before = std::prev(after);
+        if (before->first + before->second.count == first) {
+            first = before->first;
+            run.count += before->second.count;
+            erase(before);
+        }
+    }
+    if (hot_ + run.count * granuleSize > hotStock) {
+        madvise(granuleAddress(first), run.count * granuleSize, MADV_DONTNEED);
+        run.hot = false;
+    }
+    insert(first, run);
+}
+
+void Space::link(SlotGranule *granule) {
+    granule->previous = nullptr;
+    granule->next = slotGranules_;
+    if (slotGranules_) slotGranules_->previous = granule;
+    slotGranules_ = granule;
+}
+
+void Space::unlink(SlotGranule *granule) {
+    (granule->previous ? granule->previous->next : slotGranules_) = granule->next;
+    if (granule->next) granule->next->previous = granule->previous;
+}
+
+void *Space::takeSlot() {
+    SlotGranule *granule = slotGranules_;
+    if (!granule) {
+        const std::size_t index = takeRun(1);
+        detail::granules[index] = reinterpret_cast<Chunk *>(detail::slots);
+        granule = reinterpret_cast<SlotGranule *>(granuleAddress(index));
+        ASAN_UNPOISON_MEMORY_REGION(granule, sizeof(SlotGranule));
+        *granule = {nullptr, nullptr, nullptr, 0, 1};
+        link(granule);
+    }
+    char *slot = reinterpret_cast<char *>(granule->free);
+    if (slot) {
+        ASAN_UNPOISON_MEMORY_REGION(slot, slotSize);
+        granule->free = granule->free->next;
+    } else {
+        slot = reinterpret_cast<char *>(granule) + granule->untouched++ * slotSize;
+        ASAN_UNPOISON_MEMORY_REGION(slot, slotSize);
+    }
+    ++granule->used;
+    if (!granule->free && granule->untouched == slotsPerGranule) unlink(granule);
+    return slot;
+}
+
+void Space::giveSlot(void *slot) {
+    const std::size_t index = std::size_t(static_cast<char *>(slot) - spaceBase) / granuleSize;
+    auto *granule = reinterpret_cast<SlotGranule *>(granuleAddress(index));
+    const bool wasFull = !granule->free && granule->untouched == slotsPerGranule;
+    granule->free = new (slot) SlotGranule::Free{granule->free};
+    ASAN_POISON_MEMORY_REGION(slot, slotSize);
+    if (wasFull) link(granule);
+    if (--granule->used > 0) return;
+    unlink(granule);
+    detail::granules[index] = nullptr;
+    giveRun(index, 1);
+}
+
+Space &space() {
+    static Space *const only = [] {
+        auto *made = new Space;
+        fillStatics();
+        return made;
+    }();
+    return *only;
+}
+
+} // namespace
+
+namespace detail {
+Chunk *granules[maxGranules];
+} // namespace detail
+
+void openSpace() {
+    space();
+}
+
+Chunk *takeChunk(std::size_t bytes) {
+    Space &all = space();
+    const std::lock_guard lock(all.mutex);
+    if (bytes <= slotSize) {
+        auto *chunk = static_cast<Chunk *>(all.takeSlot());
+        chunk->size = slotSize;
+        all.inUse += slotSize;
+        return chunk;
+    }
+    const std::size_t count = (bytes + granuleSize - 1) / granuleSize;
+    const std::size_t first = all.takeRun(count);
+    auto *chunk = reinterpret_cast<Chunk *>(granuleAddress(first));
+    ASAN_UNPOISON_MEMORY_REGION(chunk, count * granuleSize);
+    std::fill_n(detail::granules + first, count, chunk);
+    chunk->size = count * granuleSize;
+    all.inUse += chunk->size;
+    return chunk;
+}
+
+void giveBack(Chunk *chunk) {
+    Space &all = space();
+    const std::size_t size = chunk->size;
+    const std::lock_guard lock(all.mutex);
+    all.inUse -= size;
+    if (size == slotSize) return all.giveSlot(chunk);
+    const std::size_t first = std::size_t(reinterpret_cast<char *>(chunk) - spaceBase) / granuleSize;
+    const std::size_t count = size / granuleSize;
+    ASAN_POISON_MEMORY_REGION(chunk, size);
+    std::fill_n(detail::granules + first, count, nullptr);
+    all.giveRun(first, count);
+}
+
+std::size_t spaceInUse() {
+    Space &all = space();
+    const std::lock_guard lock(all.mutex);
+    return all.inUse;
+}
+
+} // namespace orl::html::core

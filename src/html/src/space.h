@@ -1,0 +1,76 @@
+// The node space: one reserved stretch of addresses for all pages of the process, and who has which part of
+// it.
+//
+// The space is cut into granules of 64 KiB. A chunk of an arena is a run of granules, or, for the few nodes
+// that a caller makes on their own, a slot of 512 bytes in a granule that is cut into such slots. Runs that
+// come back are handed out again while they are still in the machine's memory, up to a bound; what is above
+// it is returned to the system.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#if defined(__SANITIZE_ADDRESS__)
+#define ORL_HTML_ASAN 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define ORL_HTML_ASAN 1
+#endif
+#endif
+
+namespace orl::html::core {
+
+using Ref = std::uint32_t; ///< 16-byte steps from the base of the node space; 0 is "none".
+
+constexpr std::size_t granuleSize = std::size_t(64) << 10;
+constexpr std::size_t slotSize = 512;
+
+extern char *spaceBase; ///< Set once, before the first arena exists.
+
+template<class T>
+inline T *at(Ref ref) {
+    return reinterpret_cast<T *>(spaceBase + (std::uintptr_t(ref) << 4));
+}
+
+inline Ref refOf(const void *record) {
+    return Ref((static_cast<const char *>(record) - spaceBase) >> 4);
+}
+
+class Arena;
+
+/// The head of each piece of memory that an arena holds.
+struct alignas(16) Chunk {
+    Arena *arena;
+    Chunk *next;
+    std::size_t size;    ///< bytes, this head included: whole granules or one slot
+    const char *baseUri; ///< of the nodes in it
+    std::size_t baseUriLength;
+};
+
+namespace detail {
+/// What stands in each granule: null, the chunk that it belongs to, or `slots`.
+extern Chunk *granules[];
+constexpr std::uintptr_t slots = 1;
+} // namespace detail
+
+/// The chunk that holds this address of the space.
+inline Chunk *chunkOf(const void *record) {
+    Chunk *chunk = detail::granules[(static_cast<const char *>(record) - spaceBase) / granuleSize];
+    if (std::uintptr_t(chunk) != detail::slots) [[likely]]
+        return chunk;
+    return reinterpret_cast<Chunk *>(std::uintptr_t(record) & ~std::uintptr_t(slotSize - 1));
+}
+
+/// Opens the space; later calls cost one load.
+void openSpace();
+
+/// A chunk of at least `bytes`, its size set, the rest of its head not. Throws std::bad_alloc when the space
+/// is full.
+Chunk *takeChunk(std::size_t bytes);
+
+void giveBack(Chunk *chunk);
+
+/// Bytes of the space that chunks have now.
+std::size_t spaceInUse();
+
+} // namespace orl::html::core

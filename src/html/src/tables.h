@@ -1,0 +1,23 @@
+// What an arena holds beside its nodes, for the few pages that need it.
+#pragma once
+
+#include "core.h"
+
+#include <memory>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace orl::html::core {
+
+/// The controls of a form, which a copy of the form has in common with it.
+using FormList = std::vector<NodeRec *>;
+
+struct Arena::Tables {
+    std::unordered_map<const NodeRec *, std::shared_ptr<FormList>> forms;
+    std::unordered_map<const NodeRec *, std::string_view> baseUris;
+    std::unordered_map<const NodeRec *, std::uint64_t> moreHolders;
+    std::unordered_map<const NodeRec *, std::unique_ptr<OutputSettings>> settings;
+};
+
+} // namespace orl::html::core

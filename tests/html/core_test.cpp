@@ -1,0 +1,178 @@
+// The memory under the tree: names, links, holders, and what is given back when.
+#include "core.h"
+
+#include <gtest/gtest.h>
+
+namespace orl::html::core {
+namespace {
+
+/// The tag names of a node's children, in order.
+std::string names(const NodeRec *node) {
+    std::string all;
+    for (const NodeRec *child = firstChild(node); child; child = nextSibling(child))
+        all += std::string(tagOf(child)->name()) + ' ';
+    return all;
+}
+
+class CoreTest : public testing::Test {
+protected:
+    CoreTest() : arena(Arena::create(1000)), root(arena->newDocument("")) { hold(root); }
+    ~CoreTest() override { release(root); }
+
+    NodeRec *element(std::string_view name) {
+        return arenaOf(root).newElement(Kind::Element, arenaOf(root).tag(name));
+    }
+    NodeRec *child(std::string_view name) {
+        NodeRec *node = element(name);
+        append(root, node);
+        return node;
+    }
+
+    Arena *arena;
+    NodeRec *root;
+};
+
+TEST_F(CoreTest, NamesAreTheSameRecordForEachUse) {
+    EXPECT_EQ(arena->tag("div"), tagRec(TagId::Div));
+    EXPECT_EQ(arena->tag("blockquote")->id, TagId::Blockquote);
+    EXPECT_EQ(arena->tag("x-y"), arena->tag("x-y"));
+    EXPECT_NE(arena->tag("x-y"), arena->selfClosing(arena->tag("x-y")));
+    EXPECT_EQ(arena->tag("DIV")->id, TagId::Unknown);
+    EXPECT_EQ(arena->tag("DIV")->normalId, TagId::Div);
+    EXPECT_EQ(arena->internName("href"), nameRef(NameId::Href));
+    EXPECT_EQ(arena->internName("data-x"), arena->internName("data-x"));
+    EXPECT_EQ(at<NameRec>(arena->internName("HREF"))->lower, nameRef(NameId::Href));
+    EXPECT_TRUE(at<NameRec>(arena->internName("CHECKED"))->flags & NameRec::Boolean);
+    for (int i = 0; i < 1000; ++i) {
+        const std::string name = "n" + std::to_string(i);
+        EXPECT_EQ(arena->internName(name), arena->internName(name));
+        EXPECT_EQ(arena->tag(name)->name(), name);
+    }
+}
+
+TEST_F(CoreTest, PlacesStayRightThroughEveryKindOfChange) {
+    NodeRec *a = child("a"), *b = child("b"), *c = child("i");
+    const auto expectPlaces = [this](const char *what) {
+        std::uint32_t place = 0;
+        for (NodeRec *n = firstChild(root); n; n = nextSibling(n))
+            EXPECT_EQ(siblingIndex(n), place++) << what;
+        EXPECT_EQ(childCount(root), place) << what;
+    };
+    expectPlaces("appended");
+    detach(a);
+    EXPECT_EQ(names(root), "b i ");
+    expectPlaces("first taken away");
+    insertBefore(b, a);
+    EXPECT_EQ(names(root), "a b i ");
+    expectPlaces("put first");
+    detach(b);
+    expectPlaces("taken from the middle");
+    insertBefore(c, b);
+    EXPECT_EQ(names(root), "a b i ");
+    expectPlaces("put in the middle");
+    detach(c);
+    expectPlaces("last taken away");
+    append(root, c);
+    expectPlaces("appended again");
+    NodeRec *other = element("p");
+    append(other, element("q"));
+    moveChildren(root, other);
+    EXPECT_EQ(names(other), "q a b i ");
+    EXPECT_EQ(firstChild(root), nullptr);
+    EXPECT_EQ(previousSibling(b), a);
+    EXPECT_EQ(previousSibling(firstChild(other)), nullptr);
+    append(root, other);
+}
+
+TEST_F(CoreTest, RootsThatNobodyHoldsAreGivenBackExceptHeldDescendants) {
+    NodeRec *outer = child("div"), *inner = element("p"), *text = arena->newText("x");
+    append(outer, inner);
+    append(inner, text);
+    hold(outer);
+    hold(inner);
+    detach(outer);
+    release(outer);
+    EXPECT_TRUE(isFree(outer));
+    EXPECT_EQ(parentOf(inner), nullptr);
+    EXPECT_EQ(firstChild(inner), text);
+    EXPECT_EQ(element("b"), outer) << "the record is used again";
+    release(inner);
+    EXPECT_TRUE(isFree(text));
+}
+
+TEST_F(CoreTest, DroppedChildrenNameTheirParentUntilItGoes) {
+    NodeRec *outer = child("div"), *inner = element("p"), *loose = element("b");
+    append(outer, inner);
+    append(outer, loose);
+    hold(outer);
+    hold(inner);
+    dropChildren(outer);
+    EXPECT_EQ(firstChild(outer), nullptr);
+    EXPECT_TRUE(isFree(loose));
+    EXPECT_EQ(parentOf(inner), outer);
+    detach(outer);
+    release(outer);
+    EXPECT_EQ(parentOf(inner), nullptr);
+    EXPECT_NE(element("i"), outer) << "the record must not be used again while inner may look at it";
+    leaveParent(inner);
+    release(inner);
+}
+
+TEST_F(CoreTest, MoreHoldersThanTheNodeCanCount) {
+    NodeRec *node = child("p");
+    constexpr int holders = 200'000;
+    for (int i = 0; i < holders; ++i)
+        hold(node);
+    detach(node);
+    for (int i = 1; i < holders; ++i)
+        release(node);
+    EXPECT_FALSE(isFree(node));
+    release(node);
+    EXPECT_TRUE(isFree(node));
+}
+
+TEST_F(CoreTest, MergedArenasLiveAndDieTogether) {
+    const std::size_t before = spaceInUse();
+    Arena *other = Arena::create();
+    NodeRec *loose = other->newElement(Kind::Element, tagRec(TagId::B));
+    other->setBaseUri("http://b/");
+    hold(loose);
+    EXPECT_EQ(spaceInUse(), before + slotSize);
+    Arena &merged = Arena::merge(*other, arenaOf(root));
+    EXPECT_EQ(&arenaOf(loose), &merged);
+    EXPECT_EQ(&arenaOf(root), &merged);
+    append(root, loose);
+    EXPECT_EQ(baseUriOf(loose), "http://b/");
+    EXPECT_EQ(baseUriOf(root), "");
+    release(root);
+    EXPECT_EQ(parentOf(loose), nullptr) << "the weak link of a parent that nobody holds";
+    hold(root = loose);
+    release(loose);
+}
+
+TEST(SpaceTest, ChunksComeBack) {
+    const std::size_t before = spaceInUse();
+    for (int round = 0; round < 3; ++round) {
+        std::vector<Arena *> arenas;
+        for (std::size_t size : {0, 1, 100'000, 0, 3'000'000, 20, 0, 80'000'000}) {
+            arenas.push_back(Arena::create(size));
+            const std::string_view text = arenas.back()->store(std::string(size, 'x'));
+            EXPECT_EQ(&arenaOf(arenas.back()), arenas.back());
+            if (!text.empty()) {
+                EXPECT_EQ(&arenaOf(&text.back()), arenas.back());
+            }
+            for (int i = 0; i < 5000; ++i)
+                arenas.back()->newText("y");
+        }
+        for (std::size_t i = 0; i < 300; ++i)
+            arenas.push_back(Arena::create());
+        for (std::size_t i = 0; i < arenas.size(); i += 2)
+            arenas[i]->destroy();
+        for (std::size_t i = 1; i < arenas.size(); i += 2)
+            arenas[i]->destroy();
+        EXPECT_EQ(spaceInUse(), before);
+    }
+}
+
+} // namespace
+} // namespace orl::html::core
