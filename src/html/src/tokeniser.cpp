@@ -1,0 +1,473 @@
+#include "tokeniser.h"
+
+#include <orl/html/entities.h>
+#include <orl/html/exception.h>
+
+#include <algorithm>
+
+namespace orl::html::core {
+
+namespace {
+
+constexpr std::string_view replacement = "\xef\xbf\xbd";
+/// Attributes of one tag that are looked through one by one; from there on a table finds the repeated ones.
+constexpr std::size_t fewAttributes = 12;
+
+/// A name that is neither plain letters and signs nor all lower case needs more than interning as it is.
+constexpr unsigned char highBit = 0x80;
+
+bool hasEdgeToTrim(std::string_view name) {
+    const auto odd = [](char c) { return static_cast<unsigned char>(c) <= ' ' || (c & highBit); };
+    return odd(name.front()) || odd(name.back());
+}
+
+bool isLowerAscii(std::string_view name) {
+    return std::none_of(name.begin(), name.end(),
+                        [](char c) { return isClass(c, UpperByte) || (c & highBit); });
+}
+
+bool isAscii(std::string_view text) {
+    return std::none_of(text.begin(), text.end(), [](char c) { return c & highBit; });
+}
+
+/// Notes a wrong reference at the reader's place.
+void characterReferenceError(const CharacterReader &reader, ParseErrorList *errors,
+                             std::string_view message) {
+    if (!errors || !errors->canAddError()) return;
+    errors->add({reader.getPos(), std::string("Invalid character reference: ").append(message)});
+}
+
+/// The value of digits in base 10 or 16; anything that is no scalar is U+FFFD, and `bad` tells.
+char32_t numericReference(std::string_view digits, unsigned base, bool &bad) {
+    char32_t value = 0;
+    for (const char c : digits) {
+        const char32_t digit = c <= '9' ? char32_t(c - '0') : char32_t((c | 0x20) - 'a' + 10);
+        value = std::min<char32_t>(value * base + digit, 0x110000);
+    }
+    bad = value >= 0x110000 || (value >= 0xd800 && value <= 0xdfff);
+    return bad ? replacementScalar : value;
+}
+
+CharacterReference consumeNumericReference(CharacterReader &reader, ParseErrorList *errors) {
+    const bool hexadecimal = reader.matchConsumeIgnoreCase("x");
+    const std::string_view digits = hexadecimal ? reader.consumeHexSequence() : reader.consumeDigitSequence();
+    if (digits.empty()) {
+        characterReferenceError(reader, errors, "numeric reference with no numerals");
+        reader.rewindToMark();
+        return {};
+    }
+    if (!reader.matchConsume(';')) characterReferenceError(reader, errors, "missing semicolon");
+    bool bad;
+    const char32_t scalar = numericReference(digits, hexadecimal ? 16 : 10, bad);
+    if (bad) characterReferenceError(reader, errors, "character outside of valid range");
+    return {{scalar}, 1};
+}
+
+/// The scalars of a name that one of the two sets has.
+CharacterReference scalarsOf(std::string_view name, std::optional<char32_t> base) {
+    if (base) return {{*base}, 1};
+    CharacterReference reference;
+    reference.count = Entities::codepointsForName(name, reference.scalars);
+    if (reference.count == 0)
+        throw Exception::Error(ExceptionType::IllegalArgumentException,
+                               std::string("Entity name not found: ").append(name));
+    if (reference.count > reference.scalars.size())
+        throw Exception::Error(ExceptionType::IllegalArgumentException,
+                               std::string("Unexpected characters returned for ")
+                                   .append(name)
+                                   .append(" num: ")
+                                   .append(std::to_string(reference.count)));
+    return reference;
+}
+
+/// Only the base names may go without a semicolon, and in an attribute not even they where the text goes on
+/// as the query of an address would.
+CharacterReference consumeNamedReference(CharacterReader &reader, ParseErrorList *errors, bool inAttribute) {
+    const std::string_view name = reader.consumeLetterThenDigitSequence();
+    const bool looksLegit = reader.matches(';');
+    const auto base = Entities::EscapeMode::base().codepointForName(name);
+    const bool found = base || Entities::isNamedEntity(name);
+    if (!found) {
+        reader.rewindToMark();
+        if (looksLegit)
+            characterReferenceError(reader, errors,
+                                    std::string("invalid named referenece '").append(name).append("'"));
+        return {};
+    }
+    const bool goesOn =
+        inAttribute && (reader.matchesLetter() || reader.matchesDigit() || reader.matchesAny("=-_"));
+    if ((!base && !looksLegit) || goesOn) {
+        reader.rewindToMark();
+        return {};
+    }
+    if (!reader.matchConsume(';')) characterReferenceError(reader, errors, "missing semicolon");
+    return scalarsOf(name, base);
+}
+
+} // namespace
+
+CharacterReference consumeCharacterReference(CharacterReader &reader, ParseErrorList *errors,
+                                             std::optional<char32_t> additionalAllowed, bool inAttribute) {
+    static constexpr std::string_view notCharacterReference = "\t\n\r\f <&";
+    if (reader.isEmpty() || reader.matchesAny(notCharacterReference)) return {};
+    if (additionalAllowed && reader.current() == *additionalAllowed) return {};
+    reader.markPos();
+    if (reader.matchConsume('#')) return consumeNumericReference(reader, errors);
+    return consumeNamedReference(reader, errors, inAttribute);
+}
+
+std::string unescapeEntities(std::string_view text, bool inAttribute) {
+    if (text.find('&') == std::string_view::npos) return std::string(text);
+    const PaddedText padded(text);
+    CharacterReader reader(padded.view());
+    std::string out;
+    out.reserve(text.size());
+    while (!reader.isEmpty()) {
+        out.append(reader.consumeTo('&'));
+        if (!reader.matchConsume('&')) break;
+        const auto reference = consumeCharacterReference(reader, nullptr, {}, inAttribute);
+        for (std::size_t i = 0; i < reference.count; ++i)
+            appendScalar(out, reference.scalars[i]);
+        if (!reference) out.push_back('&');
+    }
+    return out;
+}
+
+void Run::build() {
+    if (!built_) builder_.assign(view_);
+    present_ = built_ = true;
+}
+
+void Run::append(std::string_view piece) {
+    if (!present_) {
+        view_ = piece;
+        present_ = true;
+    } else if (!built_ && view_.data() + view_.size() == piece.data()) {
+        view_ = {view_.data(), view_.size() + piece.size()};
+    } else {
+        build();
+        builder_.append(piece);
+    }
+}
+
+void Run::append(char32_t scalar) {
+    build();
+    appendScalar(builder_, scalar);
+}
+
+std::string_view Run::take(Arena &arena) {
+    const std::string_view text = built_ ? arena.store(builder_) : view_;
+    clear();
+    return text;
+}
+
+bool SearchAhead::succeeds(const CharacterReader &reader) {
+    if (none_) return false;
+    if (hit_ && hit_ >= reader.at()) return true;
+    hit_ = reader.find(needle_);
+    none_ = !hit_;
+    return hit_;
+}
+
+Tokeniser::Tokeniser(CharacterReader &reader, Arena &arena, ParseErrorList *errors,
+                     const ParseSettings &settings)
+    : reader_(reader),
+      arena_(arena),
+      errors_(errors && errors->canAddError() ? errors : nullptr),
+      settings_(settings) {}
+
+Token &Tokeniser::read() {
+    if (!selfClosingFlagAcknowledged_) [[unlikely]] {
+        error("Self closing flag not acknowledged");
+        selfClosingFlagAcknowledged_ = true;
+    }
+    while (!isEmitPending_)
+        step();
+    if (chars_.isPresent()) {
+        charPending_.data = chars_.take(arena_);
+        charPending_.hasNul = charsHaveNul_;
+        charsHaveNul_ = false;
+        return charPending_;
+    }
+    isEmitPending_ = false;
+    return *emitPending_;
+}
+
+// ---- Output
+// ------------------------------------------------------------------------------------------------------
+
+void Tokeniser::emit(Token &token) {
+    if (isEmitPending_)
+        throw Exception::Error(ExceptionType::IllegalArgumentException, "There is an unread token pending!");
+    emitPending_ = &token;
+    isEmitPending_ = true;
+    if (token.isStartTag()) {
+        lastStartTag_ = token.asStartTag().normalName;
+        if (token.asStartTag().selfClosing) selfClosingFlagAcknowledged_ = false;
+    } else if (token.isEndTag() && !token.asEndTag().attributes.empty()) {
+        error("Attributes incorrectly present on end tag");
+    }
+}
+
+void Tokeniser::emit(std::string_view text) {
+    if (!text.empty()) chars_.append(text);
+}
+
+void Tokeniser::emit(char32_t scalar) {
+    if (scalar == 0) charsHaveNul_ = true;
+    chars_.append(scalar);
+}
+
+void Tokeniser::emit(const CharacterReference &reference) {
+    for (std::size_t i = 0; i < reference.count; ++i)
+        emit(reference.scalars[i]);
+}
+
+void Tokeniser::emitReplacement() {
+    error();
+    reader_.advance();
+    emit(replacement);
+}
+
+void Tokeniser::advanceTransition(State state) {
+    reader_.advance();
+    state_ = state;
+}
+
+void Tokeniser::error() {
+    if (!errors_ || !errors_->canAddError()) [[likely]]
+        return;
+    std::string message = "Unexpected character '";
+    appendScalar(message, reader_.current());
+    errors_->add({reader_.getPos(), message + "' in input state [TokeniserState]"});
+}
+
+void Tokeniser::eofError() {
+    error("Unexpectedly reached end of file (EOF) in input state [TokeniserState]");
+}
+
+void Tokeniser::error(std::string_view message) {
+    if (!errors_ || !errors_->canAddError()) [[likely]]
+        return;
+    errors_->add({reader_.getPos(), std::string(message)});
+}
+
+void Tokeniser::eofErrorTo(State state) {
+    eofError();
+    state_ = state;
+}
+
+// ---- Tags
+// --------------------------------------------------------------------------------------------------------
+
+void Tokeniser::createTagPending(bool start) {
+    tagPending_ = start ? static_cast<Token::Tag *>(&startPending_) : &endPending_;
+    tagPending_->reset();
+    pendingTagName_.clear();
+    pendingAttributeName_.clear();
+    pendingAttributeValue_.clear();
+    hasEmptyAttributeValue_ = false;
+    writtenNames_.clear();
+    attributePlaces_.clear();
+}
+
+/// `plain` names are known to be lower-case ASCII.
+void Tokeniser::setTagName(std::string_view name, bool plain) {
+    Token::Tag &tag = *tagPending_;
+    if (!plain && hasEdgeToTrim(name)) name = trimmed(name);
+    tag.tagName = name;
+    if (plain || isLowerAscii(name)) {
+        tag.normalName = name;
+        tag.known = knownTag(name);
+        return;
+    }
+    const std::string lower = lowerCase(name);
+    tag.known = knownTag(lower);
+    tag.normalName = tag.known ? tag.known->name() : arena_.store(lower);
+}
+
+void Tokeniser::finishTagName() {
+    if (pendingTagName_.isPresent()) setTagName(pendingTagName_.take(arena_), false);
+}
+
+void Tokeniser::emitTagPending() {
+    finishTagName();
+    newAttribute();
+    emit(*tagPending_);
+}
+
+bool Tokeniser::isAppropriateEndTagToken() const {
+    if (lastStartTag_.empty()) return false;
+    const std::string_view name = pendingTagName_.isPresent() ? pendingTagName_.view() : tagPending_->name();
+    if (name.empty()) throw Exception::Error(ExceptionType::IllegalArgumentException, "Must be false");
+    return equalsIgnoringAsciiCase(name, lastStartTag_) ||
+           (!isAscii(name) && lowerCase(name) == lastStartTag_);
+}
+
+/// Ends the pending attribute, if there is one.
+void Tokeniser::newAttribute() {
+    if (!pendingAttributeName_.isPresent()) return;
+    const std::string_view written = trimmed(pendingAttributeName_.take(arena_));
+    std::string_view value;
+    const bool hasValue = pendingAttributeValue_.isPresent() || hasEmptyAttributeValue_;
+    if (pendingAttributeValue_.isPresent()) value = pendingAttributeValue_.take(arena_);
+    hasEmptyAttributeValue_ = false;
+    if (written.empty()) return;
+    const char *const text = value.empty() ? "" : value.data();
+    putAttribute(written, nameOf(written), hasValue ? text : nullptr, value.size());
+}
+
+Ref Tokeniser::nameOf(std::string_view written) {
+    if (settings_.preserveAttributeCase() || isLowerAscii(written)) return arena_.internName(written);
+    return arena_.internName(lowerCase(written));
+}
+
+/// A name that is written the same way a second time changes the value of the first, which keeps its place.
+void Tokeniser::putAttribute(std::string_view written, Ref name, const char *value, std::size_t length) {
+    auto &attributes = tagPending_->attributes;
+    const AttrRec attribute{name, std::uint32_t(length), value};
+    if (const auto place = placeOf(written, name)) {
+        attributes[*place] = attribute;
+        return;
+    }
+    attributes.push_back(attribute);
+    writtenNames_.push_back(written);
+    if (attributes.size() > fewAttributes) hashAttribute(attributes.size() - 1);
+}
+
+std::optional<std::size_t> Tokeniser::placeOf(std::string_view written, Ref name) {
+    const auto &attributes = tagPending_->attributes;
+    const auto isAt = [&](std::size_t i) {
+        return attributes[i].name == name && writtenNames_[i] == written;
+    };
+    if (attributePlaces_.empty()) {
+        for (std::size_t i = 0; i < attributes.size(); ++i)
+            if (isAt(i)) return i;
+        return {};
+    }
+    const std::size_t mask = attributePlaces_.size() - 1;
+    for (std::size_t slot = hashOf(written) & mask; attributePlaces_[slot]; slot = (slot + 1) & mask)
+        if (isAt(attributePlaces_[slot] - 1)) return attributePlaces_[slot] - 1;
+    return {};
+}
+
+/// Enters one more attribute into the table, which is kept at most half full.
+void Tokeniser::hashAttribute(std::size_t place) {
+    const bool rebuild = 2 * (place + 1) > attributePlaces_.size();
+    if (rebuild) attributePlaces_.assign(std::max<std::size_t>(64, 2 * attributePlaces_.size()), 0);
+    const std::size_t mask = attributePlaces_.size() - 1;
+    for (std::size_t i = rebuild ? 0 : place; i <= place; ++i) {
+        std::size_t slot = hashOf(writtenNames_[i]) & mask;
+        while (attributePlaces_[slot])
+            slot = (slot + 1) & mask;
+        attributePlaces_[slot] = std::uint32_t(i + 1);
+    }
+}
+
+/// Reads a tag in one go from the first letter of its name, or up to an attribute that the states have to
+/// look at. False, with nothing done, if they have to look at the name.
+bool Tokeniser::readTag(const char *name, bool start) {
+    const char *p = name;
+    unsigned seen = 0;
+    char high = 0;
+    for (; !isClass(*p, TagNameEnd); ++p) {
+        seen |= byteClasses[static_cast<unsigned char>(*p)];
+        high = char(high | *p);
+    }
+    if (*p == '\0') return false;
+    createTagPending(start);
+    const bool plain = !(seen & UpperByte) && !(high & highBit) && static_cast<unsigned char>(p[-1]) > ' ';
+    setTagName({name, std::size_t(p - name)}, plain);
+    reader_.moveTo(p);
+    state_ = State::BeforeAttributeName;
+    readAttributes();
+    return true;
+}
+
+/// Reads whole attributes and the end of the tag; false, at the start of an attribute, where the states have
+/// to look.
+bool Tokeniser::readAttributes() {
+    const char *p = reader_.at();
+    for (;;) {
+        while (isWhite(*p))
+            ++p;
+        const bool selfClosing = *p == '/' && p[1] == '>';
+        if (*p == '>' || selfClosing) {
+            if (selfClosing) tagPending_->selfClosing = true;
+            reader_.moveTo(p + 1 + selfClosing);
+            state_ = State::Data;
+            emit(*tagPending_);
+            return true;
+        }
+        const char *const next = readAttribute(p);
+        if (!next) break;
+        p = next;
+    }
+    reader_.moveTo(p);
+    return false;
+}
+
+/// Reads the attribute at `p` and gives the place behind it; null if it is not plain.
+const char *Tokeniser::readAttribute(const char *p) {
+    const char *const name = p;
+    unsigned char low = 0xff, high = 0;
+    unsigned seen = 0;
+    for (; !isClass(*p, AttributeNameEnd); ++p) {
+        const auto c = static_cast<unsigned char>(*p);
+        seen |= byteClasses[c];
+        low = std::min(low, c);
+        high |= c;
+    }
+    if (p == name || low <= ' ' || high >= highBit) return nullptr;
+    const std::string_view written(name, std::size_t(p - name));
+    std::string_view value;
+    const bool hasValue = *p == '=';
+    if (hasValue) {
+        p = readValue(p + 1, value);
+        if (!p) return nullptr;
+    } else if (isWhite(*p)) {
+        while (isWhite(*p))
+            ++p;
+        if (*p == '=') return nullptr;
+    } else if (*p != '>' && *p != '/') {
+        return nullptr;
+    }
+    const bool lower = !(seen & UpperByte) || settings_.preserveAttributeCase();
+    putAttribute(written, lower ? arena_.internName(written) : nameOf(written), value.data(), value.size());
+    return p;
+}
+
+/// A value that holds no reference and nothing wrong, and is followed by what may follow it.
+const char *Tokeniser::readValue(const char *p, std::string_view &value) const {
+    const char quote = *p;
+    if (quote == '"' || quote == '\'') {
+        const char *const start = p + 1;
+        p = quote == '"' ? scan::to<'"', '&'>(start) : scan::to<'\'', '&'>(start);
+        if (*p != quote) return nullptr;
+        value = {start, std::size_t(p - start)};
+        ++p;
+        return isWhite(*p) || *p == '>' || *p == '/' ? p : nullptr;
+    }
+    const char *const start = p;
+    while (!isClass(*p, UnquotedEnd))
+        ++p;
+    value = {start, std::size_t(p - start)};
+    return p > start && (isWhite(*p) || *p == '>') ? p : nullptr;
+}
+
+/// Whether an end tag of that name, all in lower case or all in upper case, still comes.
+bool Tokeniser::closesLater(std::string_view name) {
+    const auto comes = [this](const std::string &needle) {
+        auto search =
+            std::find_if(searches_.begin(), searches_.end(), [&](auto &s) { return s.isFor(needle); });
+        if (search == searches_.end()) search = searches_.emplace(searches_.end(), needle);
+        return search->succeeds(reader_);
+    };
+    std::string needle = "</" + std::string(name);
+    if (comes(needle)) return true;
+    for (char &c : needle)
+        c = isClass(c, LetterByte) ? char(c & ~0x20) : c;
+    return comes(needle);
+}
+
+} // namespace orl::html::core

@@ -1,0 +1,731 @@
+// The states of the tokeniser, in the order in which the HTML standard gives them.
+#include "tokeniser.h"
+
+namespace orl::html::core {
+
+namespace {
+
+using State = TokeniserState;
+
+constexpr char32_t eof = CharacterReader::endOfInput;
+constexpr std::string_view replacement = "\xef\xbf\xbd";
+
+} // namespace
+
+/// States that differ only in where they lead: those of RCDATA, RAWTEXT, script data, and script data in
+/// comments.
+struct Tokeniser::Family {
+    State text, lessThanSign, endTagOpen, endTagName;
+    State dash = State::Data, dashDash = State::Data;
+};
+
+void Tokeniser::step() {
+    using enum TokeniserState;
+    static constexpr Family rcdataFamily{Rcdata, RcdataLessthanSign, RCDATAEndTagOpen, RCDATAEndTagName};
+    static constexpr Family rawtext{Rawtext, RawtextLessthanSign, RawtextEndTagOpen, RawtextEndTagName};
+    static constexpr Family script{ScriptData, ScriptDataLessthanSign, ScriptDataEndTagOpen,
+                                   ScriptDataEndTagName};
+    static constexpr Family escaped{ScriptDataEscaped,           ScriptDataEscapedLessthanSign,
+                                    ScriptDataEscapedEndTagOpen, ScriptDataEscapedEndTagName,
+                                    ScriptDataEscapedDash,       ScriptDataEscapedDashDash};
+    static constexpr Family doubleEscaped{ScriptDataDoubleEscaped,     ScriptDataDoubleEscapedLessthanSign,
+                                          ScriptDataDoubleEscaped,     ScriptDataDoubleEscaped,
+                                          ScriptDataDoubleEscapedDash, ScriptDataDoubleEscapedDashDash};
+    Token::Doctype &dt = doctypePending_;
+
+    switch (state_) {
+    case Data: return data();
+    case CharacterReferenceInData: return characterReferenceIn(Data);
+    case State::Rcdata: return rcdata();
+    case CharacterReferenceInRcdata: return characterReferenceIn(Rcdata);
+    case Rawtext: return characterData(rawtext);
+    case ScriptData: return characterData(script);
+    case PLAINTEXT: return plaintext();
+    case TagOpen: return tagOpen();
+    case EndTagOpen: return endTagOpen();
+    case TagName: return tagName();
+    case RcdataLessthanSign: return rcdataLessthanSign();
+    case RCDATAEndTagOpen: return endTagOpen(rcdataFamily);
+    case RCDATAEndTagName: return endTagName(rcdataFamily);
+    case RawtextLessthanSign: return lessThanSign(rawtext);
+    case RawtextEndTagOpen: return endTagOpen(rawtext);
+    case RawtextEndTagName: return endTagName(rawtext);
+    case ScriptDataLessthanSign: return scriptDataLessthanSign();
+    case ScriptDataEndTagOpen: return endTagOpen(script);
+    case ScriptDataEndTagName: return endTagName(script);
+    case ScriptDataEscapeStart: return scriptDataEscapeStart(ScriptDataEscapeStartDash);
+    case ScriptDataEscapeStartDash: return scriptDataEscapeStart(ScriptDataEscapedDashDash);
+    case ScriptDataEscaped:
+    case ScriptDataEscapedDash:
+    case ScriptDataEscapedDashDash: return escapedText(escaped);
+    case ScriptDataEscapedLessthanSign: return scriptDataEscapedLessthanSign();
+    case ScriptDataEscapedEndTagOpen: return endTagOpen(escaped);
+    case ScriptDataEscapedEndTagName: return endTagName(escaped);
+    case ScriptDataDoubleEscapeStart: return doubleEscapeTag(ScriptDataDoubleEscaped, ScriptDataEscaped);
+    case ScriptDataDoubleEscaped:
+    case ScriptDataDoubleEscapedDash:
+    case ScriptDataDoubleEscapedDashDash: return escapedText(doubleEscaped);
+    case ScriptDataDoubleEscapedLessthanSign: return scriptDataDoubleEscapedLessthanSign();
+    case ScriptDataDoubleEscapeEnd: return doubleEscapeTag(ScriptDataEscaped, ScriptDataDoubleEscaped);
+    case BeforeAttributeName: return beforeAttributeName();
+    case AttributeName: return attributeName();
+    case AfterAttributeName: return afterAttributeName();
+    case BeforeAttributeValue: return beforeAttributeValue();
+    case AttributeValue_doubleQuoted: return attributeValue('"');
+    case AttributeValue_singleQuoted: return attributeValue('\'');
+    case AttributeValue_unquoted: return attributeValueUnquoted();
+    case AfterAttributeValue_quoted: return afterAttributeValueQuoted();
+    case SelfClosingStartTag: return selfClosingStartTag();
+    case BogusComment: return bogusComment();
+    case MarkupDeclarationOpen: return markupDeclarationOpen();
+    case CommentStart: return commentStart();
+    case CommentStartDash: return commentStartDash();
+    case Comment: return comment();
+    case CommentEndDash: return commentEndDash();
+    case CommentEnd: return commentEnd();
+    case CommentEndBang: return commentEndBang();
+    case Doctype: return doctype();
+    case BeforeDoctypeName: return beforeDoctypeName();
+    case DoctypeName: return doctypeName();
+    case AfterDoctypeName: return afterDoctypeName();
+    case AfterDoctypePublicKeyword:
+        return afterDoctypeKeyword(dt.publicIdentifier, BeforeDoctypePublicIdentifier);
+    case BeforeDoctypePublicIdentifier: return beforeIdentifier(dt.publicIdentifier);
+    case DoctypePublicIdentifier_doubleQuoted:
+        return identifier(dt.publicIdentifier, '"', AfterDoctypePublicIdentifier);
+    case DoctypePublicIdentifier_singleQuoted:
+        return identifier(dt.publicIdentifier, '\'', AfterDoctypePublicIdentifier);
+    case AfterDoctypePublicIdentifier: return afterDoctypePublicIdentifier();
+    case BetweenDoctypePublicAndSystemIdentifiers: return betweenDoctypePublicAndSystemIdentifiers();
+    case AfterDoctypeSystemKeyword:
+        return afterDoctypeKeyword(dt.systemIdentifier, BeforeDoctypeSystemIdentifier);
+    case BeforeDoctypeSystemIdentifier: return beforeIdentifier(dt.systemIdentifier);
+    case DoctypeSystemIdentifier_doubleQuoted:
+        return identifier(dt.systemIdentifier, '"', AfterDoctypeSystemIdentifier);
+    case DoctypeSystemIdentifier_singleQuoted:
+        return identifier(dt.systemIdentifier, '\'', AfterDoctypeSystemIdentifier);
+    case AfterDoctypeSystemIdentifier: return afterDoctypeSystemIdentifier();
+    case BogusDoctype: return bogusDoctype();
+    case CdataSection: return cdataSection();
+    }
+}
+
+// ---- Text
+// --------------------------------------------------------------------------------------------------------
+
+void Tokeniser::data() {
+    if (reader_.current() == eof) [[unlikely]]
+        return emit(eofPending_);
+    emit(reader_.consumeData());
+    if (reader_.isEmpty()) return;
+    const char *const here = reader_.at();
+    switch (*here) {
+    case '<': {
+        const bool start = here[1] != '/';
+        const char *const name = here + 1 + !start;
+        if (isClass(*name, LetterByte) && readTag(name, start)) return;
+        return advanceTransition(State::TagOpen);
+    }
+    case '&': return advanceTransition(State::CharacterReferenceInData);
+    default: // NUL
+        error();
+        reader_.advance();
+        charsHaveNul_ = true;
+        return emitLast(1);
+    }
+}
+
+void Tokeniser::characterReferenceIn(State data) {
+    const std::string_view ampersand(reader_.at() - 1, 1);
+    if (const auto reference = consumeCharacterReference(reader_, errors_, {}, false))
+        emit(reference);
+    else
+        emit(ampersand);
+    state_ = data;
+}
+
+void Tokeniser::rcdata() {
+    if (reader_.current() == eof) return emit(eofPending_);
+    emit(reader_.consumeData());
+    if (reader_.isEmpty()) return;
+    if (reader_.matches('&')) return advanceTransition(State::CharacterReferenceInRcdata);
+    if (reader_.matches('<')) return advanceTransition(State::RcdataLessthanSign);
+    emitReplacement();
+}
+
+/// RAWTEXT and script data.
+void Tokeniser::characterData(const Family &family) {
+    if (reader_.current() == eof) return emit(eofPending_);
+    emit(reader_.consumeUpTo(scan::to<'<'>(reader_.at())));
+    if (reader_.isEmpty()) return;
+    if (reader_.matches('<')) return advanceTransition(family.lessThanSign);
+    emitReplacement();
+}
+
+void Tokeniser::plaintext() {
+    if (reader_.current() == eof) return emit(eofPending_);
+    emit(reader_.consumeUpTo(scan::to<>(reader_.at())));
+    if (!reader_.isEmpty()) emitReplacement();
+}
+
+// ---- Tags
+// --------------------------------------------------------------------------------------------------------
+
+void Tokeniser::tagOpen() {
+    switch (reader_.current()) {
+    case '!': return advanceTransition(State::MarkupDeclarationOpen);
+    case '/': return advanceTransition(State::EndTagOpen);
+    case '?': return advanceTransition(State::BogusComment);
+    }
+    if (reader_.matchesLetter()) {
+        createTagPending(true);
+        return transition(State::TagName);
+    }
+    error();
+    emitLast(1);
+    transition(State::Data);
+}
+
+void Tokeniser::endTagOpen() {
+    if (reader_.isEmpty()) {
+        eofError();
+        emitLast(2);
+        return transition(State::Data);
+    }
+    if (reader_.matchesLetter()) {
+        createTagPending(false);
+        return transition(State::TagName);
+    }
+    error();
+    advanceTransition(reader_.matches('>') ? State::Data : State::BogusComment);
+}
+
+void Tokeniser::tagName() {
+    pendingTagName_.append(reader_.consumeTagName());
+    const char32_t c = reader_.consume();
+    if (c == 0) return pendingTagName_.append(replacement);
+    finishTagName();
+    switch (c) {
+    case '/': return transition(State::SelfClosingStartTag);
+    case '>': emitTagPending(); return transition(State::Data);
+    case eof: return eofErrorTo(State::Data);
+    default: return transition(State::BeforeAttributeName);
+    }
+}
+
+/// An element whose end tag never comes ends here, before the next tag, and not with the page: an unclosed
+/// title costs its own line and not the rest of the page. The HTML standard would go on to the end.
+void Tokeniser::rcdataLessthanSign() {
+    if (reader_.matches('/')) {
+        dataBuffer_.clear();
+        return advanceTransition(State::RCDATAEndTagOpen);
+    }
+    if (reader_.matchesLetter() && !lastStartTag_.empty() && !closesLater(lastStartTag_)) {
+        createTagPending(false);
+        setTagName(lastStartTag_, false);
+        emitTagPending();
+        reader_.unconsume();
+        return transition(State::Data);
+    }
+    emitLast(1);
+    transition(State::Rcdata);
+}
+
+void Tokeniser::lessThanSign(const Family &family) {
+    if (reader_.matches('/')) {
+        dataBuffer_.clear();
+        return advanceTransition(family.endTagOpen);
+    }
+    emitLast(1);
+    transition(family.text);
+}
+
+void Tokeniser::endTagOpen(const Family &family) {
+    if (reader_.matchesLetter()) {
+        createTagPending(false);
+        return transition(family.endTagName);
+    }
+    emitLast(2);
+    transition(family.text);
+}
+
+/// Only the end tag of the element that is open ends its text; anything else is text.
+void Tokeniser::endTagName(const Family &family) {
+    const std::string_view letters = reader_.consumeLetterSequence();
+    pendingTagName_.append(letters);
+    dataBuffer_.append(letters);
+    if (!reader_.isEmpty() && isAppropriateEndTagToken()) {
+        const char c = *reader_.at();
+        if (isWhite(c) || c == '/' || c == '>') {
+            finishTagName();
+            reader_.advance();
+            if (isWhite(c)) return transition(State::BeforeAttributeName);
+            if (c == '/') return transition(State::SelfClosingStartTag);
+            emitTagPending();
+            return transition(State::Data);
+        }
+    }
+    emitLast(2 + dataBuffer_.view().size());
+    transition(family.text);
+}
+
+// ---- Scripts
+// -----------------------------------------------------------------------------------------------------
+
+void Tokeniser::scriptDataLessthanSign() {
+    if (reader_.matches('/')) {
+        dataBuffer_.clear();
+        return advanceTransition(State::ScriptDataEndTagOpen);
+    }
+    const bool declaration = reader_.matchConsume('!');
+    emitLast(declaration ? 2 : 1);
+    transition(declaration ? State::ScriptDataEscapeStart : State::ScriptData);
+}
+
+void Tokeniser::scriptDataEscapeStart(State next) {
+    const bool dash = reader_.matchConsume('-');
+    if (dash) emitLast(1);
+    transition(dash ? next : State::ScriptData);
+}
+
+/// The text of a script within "<!--", escaped once or twice; dashes are counted to find the "-->".
+void Tokeniser::escapedText(const Family &family) {
+    const bool twice = family.text == State::ScriptDataDoubleEscaped;
+    const State here = state_;
+    switch (reader_.current()) {
+    case '-': advanceTransition(here == family.text ? family.dash : family.dashDash); return emitLast(1);
+    case '<':
+        advanceTransition(family.lessThanSign);
+        if (twice) emitLast(1);
+        return;
+    case '>':
+        advanceTransition(here == family.dashDash ? State::ScriptData : family.text);
+        return emitLast(1);
+    case 0: emitReplacement(); return transition(family.text);
+    case eof: return eofErrorTo(State::Data);
+    default: emit(reader_.consumeUpTo(scan::to<'-', '<'>(reader_.at()))); return transition(family.text);
+    }
+}
+
+void Tokeniser::scriptDataEscapedLessthanSign() {
+    dataBuffer_.clear();
+    if (reader_.matches('/')) return advanceTransition(State::ScriptDataEscapedEndTagOpen);
+    emitLast(1);
+    transition(reader_.matchesLetter() ? State::ScriptDataDoubleEscapeStart : State::ScriptDataEscaped);
+}
+
+/// A script tag within the comment of a script, its start or its end.
+void Tokeniser::doubleEscapeTag(State ifScript, State otherwise) {
+    const std::string_view letters = reader_.consumeLetterSequence();
+    dataBuffer_.append(letters);
+    emit(letters);
+    const bool ends = !reader_.isEmpty() && (isWhite(*reader_.at()) || reader_.matchesAny("/>"));
+    if (ends) {
+        reader_.advance();
+        emitLast(1);
+    }
+    transition(ends && dataBuffer_.view() == "script" ? ifScript : otherwise);
+}
+
+void Tokeniser::scriptDataDoubleEscapedLessthanSign() {
+    if (!reader_.matchConsume('/')) return transition(State::ScriptDataDoubleEscaped);
+    emitLast(1);
+    dataBuffer_.clear();
+    transition(State::ScriptDataDoubleEscapeEnd);
+}
+
+// ---- Attributes
+// --------------------------------------------------------------------------------------------------
+
+void Tokeniser::beforeAttributeName() {
+    newAttribute();
+    if (readAttributes()) return;
+    switch (reader_.current()) {
+    case '/': return advanceTransition(State::SelfClosingStartTag);
+    case eof: return eofErrorTo(State::Data);
+    case '=':
+        error();
+        pendingAttributeName_.append(reader_.consumeAsString());
+        return transition(State::AttributeName);
+    default: return transition(State::AttributeName);
+    }
+}
+
+void Tokeniser::attributeName() {
+    pendingAttributeName_.append(reader_.consumeWhileNot(AttributeNameEnd));
+    const std::string_view c = reader_.consumeAsString();
+    if (c.empty()) return eofErrorTo(State::Data);
+    switch (c[0]) {
+    case '/': return transition(State::SelfClosingStartTag);
+    case '=': return transition(State::BeforeAttributeValue);
+    case '>': emitTagPending(); return transition(State::Data);
+    case '\0': error(); return pendingAttributeName_.append(replacement);
+    case '"':
+    case '\'':
+    case '<': error(); return pendingAttributeName_.append(c);
+    default: return transition(State::AfterAttributeName);
+    }
+}
+
+void Tokeniser::afterAttributeName() {
+    reader_.consumeWhile(WhiteByte);
+    switch (reader_.current()) {
+    case '/': return advanceTransition(State::SelfClosingStartTag);
+    case '=': return advanceTransition(State::BeforeAttributeValue);
+    case '>': emitTagPending(); return advanceTransition(State::Data);
+    case eof: return eofErrorTo(State::Data);
+    default: return transition(State::BeforeAttributeName);
+    }
+}
+
+void Tokeniser::beforeAttributeValue() {
+    reader_.consumeWhile(WhiteByte);
+    switch (reader_.current()) {
+    case '"': return advanceTransition(State::AttributeValue_doubleQuoted);
+    case '\'': return advanceTransition(State::AttributeValue_singleQuoted);
+    case '>':
+        error();
+        emitTagPending();
+        return advanceTransition(State::Data);
+    case eof: return eofErrorTo(State::Data);
+    default: return transition(State::AttributeValue_unquoted);
+    }
+}
+
+/// A reference in a value, from behind its "&".
+void Tokeniser::referenceInValue(char additionalAllowed) {
+    const std::string_view ampersand(reader_.at() - 1, 1);
+    const auto reference = consumeCharacterReference(reader_, errors_, char32_t(additionalAllowed), true);
+    for (std::size_t i = 0; i < reference.count; ++i)
+        pendingAttributeValue_.append(reference.scalars[i]);
+    if (!reference) pendingAttributeValue_.append(ampersand);
+}
+
+void Tokeniser::valueRun(const char *stop) {
+    const std::string_view run = reader_.consumeUpTo(stop);
+    if (run.empty())
+        hasEmptyAttributeValue_ = true;
+    else
+        pendingAttributeValue_.append(run);
+}
+
+void Tokeniser::attributeValue(char quote) {
+    valueRun(quote == '"' ? scan::to<'"', '&'>(reader_.at()) : scan::to<'\'', '&'>(reader_.at()));
+    const char32_t c = reader_.consume();
+    if (c == char32_t(quote)) return transition(State::AfterAttributeValue_quoted);
+    if (c == '&') return referenceInValue(quote);
+    if (c == eof) return eofErrorTo(State::Data);
+    error(); // NUL
+    pendingAttributeValue_.append(replacement);
+}
+
+void Tokeniser::attributeValueUnquoted() {
+    const char *stop = reader_.at();
+    while (!isClass(*stop, UnquotedEnd))
+        ++stop;
+    valueRun(stop);
+    const std::string_view c = reader_.consumeAsString();
+    if (c.empty()) return eofErrorTo(State::Data);
+    switch (c[0]) {
+    case '&': return referenceInValue('>');
+    case '>': emitTagPending(); return transition(State::Data);
+    case '\0': error(); return pendingAttributeValue_.append(replacement);
+    case '"':
+    case '\'':
+    case '<':
+    case '=':
+    case '`': error(); return pendingAttributeValue_.append(c);
+    default: return transition(State::BeforeAttributeName);
+    }
+}
+
+void Tokeniser::afterAttributeValueQuoted() {
+    const char32_t c = reader_.current();
+    if (c == '/') return advanceTransition(State::SelfClosingStartTag);
+    if (c == eof) return eofErrorTo(State::Data);
+    if (c != '>' && !isWhite(*reader_.at())) error();
+    transition(State::BeforeAttributeName);
+}
+
+void Tokeniser::selfClosingStartTag() {
+    if (reader_.matchConsume('>')) {
+        tagPending_->selfClosing = true;
+        emitTagPending();
+        return transition(State::Data);
+    }
+    if (reader_.current() == eof) return eofErrorTo(State::Data);
+    error();
+    transition(State::BeforeAttributeName);
+}
+
+// ---- Comments and declarations
+// -----------------------------------------------------------------------------------
+
+/// Takes in the character before the current place, which showed that this is no comment.
+void Tokeniser::bogusComment() {
+    reader_.unconsume();
+    createCommentPending();
+    commentPending_.bogus = true;
+    pendingComment_.append(reader_.consumeTo('>'));
+    emitCommentPending();
+    advanceTransition(State::Data);
+}
+
+void Tokeniser::markupDeclarationOpen() {
+    if (reader_.matchConsume("--")) {
+        createCommentPending();
+        return transition(State::CommentStart);
+    }
+    if (reader_.matchConsumeIgnoreCase("DOCTYPE")) return transition(State::Doctype);
+    if (reader_.matchConsume("[CDATA[")) return transition(State::CdataSection);
+    error();
+    transition(State::BogusComment);
+}
+
+void Tokeniser::createCommentPending() {
+    commentPending_.reset();
+    pendingComment_.clear();
+}
+
+void Tokeniser::emitCommentPending() {
+    commentPending_.data = pendingComment_.take(arena_);
+    emit(commentPending_);
+}
+
+/// What the states of comments do alike: `held` was read but is data only if the comment does not end here.
+void Tokeniser::commentGoesOn(std::string_view held) {
+    switch (reader_.current()) {
+    case 0:
+        error();
+        reader_.advance();
+        pendingComment_.append(held);
+        pendingComment_.append(replacement);
+        return transition(State::Comment);
+    case eof:
+        eofError();
+        emitCommentPending();
+        return transition(State::Data);
+    default: pendingComment_.append(held); return transition(State::Comment);
+    }
+}
+
+void Tokeniser::endComment() {
+    reader_.advance();
+    emitCommentPending();
+    transition(State::Data);
+}
+
+void Tokeniser::commentStart() {
+    if (reader_.matches('-')) return advanceTransition(State::CommentStartDash);
+    if (reader_.matches('>')) {
+        error();
+        return endComment();
+    }
+    commentGoesOn({});
+}
+
+void Tokeniser::commentStartDash() {
+    if (reader_.matches('-')) return advanceTransition(State::CommentEnd);
+    if (reader_.matches('>')) {
+        error();
+        return endComment();
+    }
+    commentGoesOn({reader_.at() - 1, 1});
+}
+
+void Tokeniser::comment() {
+    pendingComment_.append(reader_.consumeUpTo(scan::to<'-'>(reader_.at())));
+    if (reader_.matches('-')) return advanceTransition(State::CommentEndDash);
+    commentGoesOn({});
+}
+
+void Tokeniser::commentEndDash() {
+    if (reader_.matches('-')) return advanceTransition(State::CommentEnd);
+    commentGoesOn({reader_.at() - 1, 1});
+}
+
+void Tokeniser::commentEnd() {
+    if (reader_.matches('>')) return endComment();
+    if (reader_.matches('!')) {
+        error();
+        return advanceTransition(State::CommentEndBang);
+    }
+    error();
+    if (reader_.matches('-')) { // one of three dashes is data, the other two may still end it
+        pendingComment_.append({reader_.at() - 2, 1});
+        return reader_.advance();
+    }
+    commentGoesOn({reader_.at() - 2, 2});
+}
+
+void Tokeniser::commentEndBang() {
+    if (reader_.matches('>')) return endComment();
+    const std::string_view held(reader_.at() - 3, 3);
+    if (reader_.matches('-')) {
+        pendingComment_.append(held);
+        return advanceTransition(State::CommentEndDash);
+    }
+    commentGoesOn(held);
+}
+
+/// Recognised everywhere, not only in foreign content.
+void Tokeniser::cdataSection() {
+    const std::string_view text = reader_.consumeTo("]]>");
+    if (text.find('\0') != std::string_view::npos) charsHaveNul_ = true;
+    emit(text);
+    reader_.matchConsume("]]>");
+    transition(State::Data);
+}
+
+// ---- Document types
+// ----------------------------------------------------------------------------------------------
+
+void Tokeniser::createDoctypePending() {
+    doctypePending_.reset();
+}
+
+void Tokeniser::emitDoctypePending() {
+    emit(doctypePending_);
+    transition(State::Data);
+}
+
+/// The page ended within the declaration.
+void Tokeniser::eofInDoctype() {
+    eofError();
+    doctypePending_.forceQuirks = true;
+    emitDoctypePending();
+}
+
+/// ">" or the end, where either comes too early; whether it was that.
+bool Tokeniser::endsDoctypeEarly() {
+    if (reader_.current() == eof) {
+        eofInDoctype();
+        return true;
+    }
+    if (!reader_.matches('>')) return false;
+    error();
+    reader_.advance();
+    doctypePending_.forceQuirks = true;
+    emitDoctypePending();
+    return true;
+}
+
+/// ">" or the end, where ">" is in place; whether it was that.
+bool Tokeniser::endsDoctype() {
+    if (!reader_.matchConsume('>')) {
+        if (reader_.current() != eof) return false;
+        eofInDoctype();
+        return true;
+    }
+    emitDoctypePending();
+    return true;
+}
+
+void Tokeniser::wrongInDoctype(bool quirks) {
+    error();
+    if (quirks) doctypePending_.forceQuirks = true;
+    advanceTransition(State::BogusDoctype);
+}
+
+void Tokeniser::doctype() {
+    createDoctypePending();
+    if (isWhite(*reader_.at())) return advanceTransition(State::BeforeDoctypeName);
+    if (reader_.current() == eof) return eofInDoctype();
+    error();
+    transition(State::BeforeDoctypeName);
+}
+
+void Tokeniser::beforeDoctypeName() {
+    reader_.consumeWhile(WhiteByte);
+    if (!endsDoctypeEarly()) transition(State::DoctypeName);
+}
+
+void Tokeniser::doctypeName() {
+    std::string &name = doctypePending_.name;
+    for (const char c : reader_.consumeWhileNot(TagNameEnd))
+        name += isClass(c, UpperByte) ? char(c | 0x20) : c;
+    if (endsDoctype()) return;
+    const std::string_view c = reader_.consumeAsString();
+    if (isWhite(c[0])) return transition(State::AfterDoctypeName);
+    if (c[0] == '\0') error();
+    name.append(c[0] == '\0' ? replacement : c);
+}
+
+void Tokeniser::afterDoctypeName() {
+    reader_.consumeWhile(WhiteByte);
+    if (endsDoctype()) return;
+    if (reader_.matchConsumeIgnoreCase("PUBLIC")) {
+        doctypePending_.pubSysKey = "PUBLIC";
+        return transition(State::AfterDoctypePublicKeyword);
+    }
+    if (reader_.matchConsumeIgnoreCase("SYSTEM")) {
+        doctypePending_.pubSysKey = "SYSTEM";
+        return transition(State::AfterDoctypeSystemKeyword);
+    }
+    wrongInDoctype(true);
+}
+
+/// Behind PUBLIC or SYSTEM: blanks should come before the quote.
+void Tokeniser::afterDoctypeKeyword(std::string &identifier, State before) {
+    if (isWhite(*reader_.at())) return advanceTransition(before);
+    if (reader_.matchesAny("\"'")) error();
+    beforeIdentifier(identifier);
+}
+
+void Tokeniser::beforeIdentifier(std::string &identifier) {
+    reader_.consumeWhile(WhiteByte);
+    if (endsDoctypeEarly()) return;
+    if (reader_.matchesAny("\"'")) return startIdentifier(identifier);
+    wrongInDoctype(true);
+}
+
+/// At the quote in front of an identifier.
+void Tokeniser::startIdentifier(std::string &identifier) {
+    const bool isPublic = &identifier == &doctypePending_.publicIdentifier;
+    const bool twice = reader_.matches('"');
+    identifier.clear();
+    if (isPublic)
+        advanceTransition(twice ? State::DoctypePublicIdentifier_doubleQuoted
+                                : State::DoctypePublicIdentifier_singleQuoted);
+    else
+        advanceTransition(twice ? State::DoctypeSystemIdentifier_doubleQuoted
+                                : State::DoctypeSystemIdentifier_singleQuoted);
+}
+
+void Tokeniser::identifier(std::string &identifier, char quote, State after) {
+    const char stops[] = {quote, '>', '\0'};
+    identifier.append(reader_.consumeToAny({stops, sizeof stops}));
+    if (reader_.matches(quote)) return advanceTransition(after);
+    if (endsDoctypeEarly()) return;
+    error(); // NUL
+    reader_.advance();
+    identifier.append(replacement);
+}
+
+void Tokeniser::afterDoctypePublicIdentifier() {
+    if (isWhite(*reader_.at())) return advanceTransition(State::BetweenDoctypePublicAndSystemIdentifiers);
+    if (endsDoctype()) return;
+    if (!reader_.matchesAny("\"'")) return wrongInDoctype(true);
+    error();
+    startIdentifier(doctypePending_.systemIdentifier);
+}
+
+void Tokeniser::betweenDoctypePublicAndSystemIdentifiers() {
+    reader_.consumeWhile(WhiteByte);
+    if (endsDoctype()) return;
+    if (!reader_.matchesAny("\"'")) return wrongInDoctype(true);
+    startIdentifier(doctypePending_.systemIdentifier);
+}
+
+void Tokeniser::afterDoctypeSystemIdentifier() {
+    reader_.consumeWhile(WhiteByte);
+    if (!endsDoctype()) wrongInDoctype(false);
+}
+
+void Tokeniser::bogusDoctype() {
+    reader_.consumeTo('>');
+    reader_.matchConsume('>');
+    emitDoctypePending();
+}
+
+} // namespace orl::html::core
