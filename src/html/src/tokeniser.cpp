@@ -139,7 +139,7 @@ void Run::build() {
 }
 
 void Run::append(std::string_view piece) {
-    if (!present_) {
+    if (!present_ || (!built_ && view_.empty())) {
         view_ = piece;
         present_ = true;
     } else if (!built_ && view_.data() + view_.size() == piece.data()) {
