@@ -1,5 +1,6 @@
 #include "core.h"
 
+#include "orl/html/document.h"
 #include "orl/html/exception.h"
 #include "orl/html/output_settings.h"
 #include "tables.h"
@@ -35,7 +36,7 @@ std::string_view textKey(Kind kind) {
 
 Arena *Arena::create(std::size_t inputBytes) {
     openSpace();
-    const std::size_t head = sizeof(Chunk) + sizeof(Arena);
+    const std::size_t head = sizeof(Chunk) + sizeof(Arena) + 2 * readable;
     Chunk *chunk = takeChunk(inputBytes ? head + padding + inputBytes * 5 / 2 : slotSize);
     chunk->next = nullptr;
     chunk->baseUri = "";
@@ -43,13 +44,14 @@ Arena *Arena::create(std::size_t inputBytes) {
     return new (chunk + 1) Arena(chunk);
 }
 
-Arena::Arena(Chunk *first)
-    : cursor_(reinterpret_cast<char *>(first + 1) + (sizeof(Arena) + 15) / 16 * 16),
-      end_(reinterpret_cast<char *>(first) + first->size),
-      chunks_(first),
-      oldest_(first),
-      size_(first->size) {
-    first->arena = this;
+Arena::Arena(Chunk *first) : chunks_(first), oldest_(first), size_(first->size) {
+    startChunk(first, sizeof(Chunk) + (sizeof(Arena) + 15) / 16 * 16);
+}
+
+void Arena::startChunk(Chunk *chunk, std::size_t headSize) {
+    chunk->arena = this;
+    cursor_ = reinterpret_cast<char *>(chunk) + headSize;
+    end_ = reinterpret_cast<char *>(chunk) + chunk->size - readable;
 }
 
 void Arena::destroy() {
@@ -69,7 +71,7 @@ Arena::Tables &Arena::tables() {
 }
 
 void Arena::grow(std::size_t bytes) {
-    const std::size_t wanted = bytes + sizeof(Chunk);
+    const std::size_t wanted = bytes + sizeof(Chunk) + readable;
     if (chunkCount_ < looseSlots && size_ == chunkCount_ * slotSize && wanted <= slotSize)
         return addChunk(slotSize);
     addChunk(std::max(wanted, std::min(maxStep, size_ / 4) + slotSize + 1));
@@ -77,13 +79,11 @@ void Arena::grow(std::size_t bytes) {
 
 void Arena::addChunk(std::size_t bytes) {
     Chunk *chunk = takeChunk(bytes);
-    chunk->arena = this;
     chunk->next = chunks_;
     chunk->baseUri = chunks_->baseUri;
     chunk->baseUriLength = chunks_->baseUriLength;
     chunks_ = chunk;
-    cursor_ = reinterpret_cast<char *>(chunk + 1);
-    end_ = reinterpret_cast<char *>(chunk) + chunk->size;
+    startChunk(chunk, sizeof(Chunk));
     size_ += chunk->size;
     ++chunkCount_;
 }
@@ -294,10 +294,7 @@ NodeRec *Arena::shallowCopy(NodeRec *node) {
     if (hasBranch(node)) {
         copy->branch.firstChild = 0;
         copy->flags |= isElement(node) ? NodeRec::IndexValid : 0U;
-        if (node->attrCount > 0) {
-            node->flags |= NodeRec::SharedAttrs;
-            copy->flags |= NodeRec::SharedAttrs;
-        }
+        shareAttrs(node, copy);
     }
     setOwnBaseUri(copy, baseUriOf(node));
     if (!(node->flags & NodeRec::SideData)) return copy;
@@ -307,6 +304,14 @@ NodeRec *Arena::shallowCopy(NodeRec *node) {
     else
         tables().forms[copy] = tables().forms.at(node);
     return copy;
+}
+
+void shareAttrs(NodeRec *from, NodeRec *to) {
+    to->attrCount = from->attrCount;
+    to->branch.attrs = from->branch.attrs;
+    if (from->attrCount == 0) return;
+    from->flags |= NodeRec::SharedAttrs;
+    to->flags |= NodeRec::SharedAttrs;
 }
 
 const AttrRec *findAttr(const NodeRec *node, Ref name) {
@@ -340,9 +345,7 @@ void setOwnBaseUri(NodeRec *node, std::string_view uri) {
     }
     // Most often the caller passes a text that another node of the arena has already.
     std::string_view &own = uris[node];
-    const bool isStored = uri.data() >= spaceBase && refOf(uri.data()) >= endOfStatics &&
-                          std::size_t(uri.data() - spaceBase) < (std::size_t(64) << 30) &&
-                          &arenaOf(uri.data()) == &arena;
+    const bool isStored = isInSpace(uri.data()) && chunkOf(uri.data())->arena == &arena;
     own = isStored ? uri : arena.store(uri);
     node->flags |= NodeRec::OwnBaseUri;
 }
@@ -402,6 +405,7 @@ bool Arena::releaseMore(NodeRec *node) {
 }
 
 void Arena::reclaim(NodeRec *root) {
+    ++version;
     std::vector<NodeRec *> orphans;
     while (root) {
         if (root->parent) --dropped_;

@@ -32,6 +32,7 @@
 
 namespace orl::html {
 class OutputSettings;
+enum class QuirksMode : unsigned char;
 } // namespace orl::html
 
 namespace orl::html::core {
@@ -77,6 +78,7 @@ struct alignas(16) NodeRec {
         OwnBaseUri = 4,  ///< the base URI differs from the chunk's and stands in a table of the arena
         TextInAttrs = 8, ///< of a Text, Data or Comment: its text has moved into its attributes
         ProcessingInstruction = 8, ///< of an XmlDeclaration
+        OpenElement = 8,           ///< of an element: the tree builder has it on its stack
         SideData = 16, ///< the arena holds a form's list or a document's output settings in a table
     };
     static constexpr std::uint32_t manyAttrs = 255;     ///< the true count stands before the block
@@ -112,8 +114,6 @@ struct alignas(16) AttrHeader {
     std::uint32_t count;
     std::uint32_t capacity;
 };
-
-enum class QuirksMode : std::uint8_t { noQuirks, quirks, limitedQuirks };
 
 /// A document's node and what only a document has.
 struct DocumentRec {
@@ -323,6 +323,9 @@ inline std::string_view attrValue(const NodeRec *node, Ref name) {
     return found ? found->text() : std::string_view();
 }
 
+/// Gives `to`, which has no attributes, those of `from`: the same records in a list of its own.
+void shareAttrs(NodeRec *from, NodeRec *to);
+
 /// The text of a Text, Data or Comment.
 std::string_view textInAttrs(const NodeRec *leaf);
 inline std::string_view leafText(const NodeRec *leaf) {
@@ -348,6 +351,8 @@ public:
     /// than 2 GiB, or Exception::Error says so.
     const char *retain(std::string_view page);
     static constexpr std::size_t padding = 64;
+    /// Bytes that may be read past the end of any text in an arena.
+    static constexpr std::size_t readable = 16;
 
     /// 16-byte aligned memory, uninitialised.
     void *allocate(std::size_t bytes);
@@ -411,7 +416,8 @@ private:
     friend void dropIfUnheld(NodeRec *node);
     friend void dropChildren(NodeRec *node);
     friend void leaveParent(NodeRec *node);
-    friend class ArenaHold;
+    friend void holdArenaOf(const void *record);
+    friend void releaseArenaOf(const void *record);
 
     struct TablesDeleter {
         void operator()(Tables *tables) const;
@@ -429,6 +435,7 @@ private:
 
     void grow(std::size_t bytes);
     void addChunk(std::size_t bytes);
+    void startChunk(Chunk *chunk, std::size_t headSize);
     NodeRec *newNode();
     const TagRec *dynamicTag(std::string_view name, std::uint16_t flags, const TagRec *like);
     void reclaim(NodeRec *root);
@@ -562,19 +569,25 @@ void dropChildren(NodeRec *node);
 /// detach() for a node that a caller may hold.
 void leaveParent(NodeRec *node);
 
+// Handles to what is no node keep the arena of its address, which merges may change.
+inline void holdArenaOf(const void *record) {
+    ++arenaOf(record).held_;
+}
+inline void releaseArenaOf(const void *record) {
+    Arena &arena = arenaOf(record);
+    if (--arena.held_ == 0) arena.destroy();
+}
+
 /// Keeps an arena while no node of it is held.
 class ArenaHold {
 public:
-    explicit ArenaHold(Arena *arena) : anchor_(arena) { ++arena->held_; }
+    explicit ArenaHold(Arena *arena) : arena_(arena) { holdArenaOf(arena_); }
     ArenaHold(const ArenaHold &) = delete;
     ArenaHold &operator=(const ArenaHold &) = delete;
-    ~ArenaHold() {
-        Arena &arena = arenaOf(anchor_);
-        if (--arena.held_ == 0) arena.destroy();
-    }
+    ~ArenaHold() { releaseArenaOf(arena_); }
 
 private:
-    void *anchor_; ///< the arena may merge into another; the address tells which
+    const void *arena_; ///< where the arena was made; it may have merged into another
 };
 
 } // namespace orl::html::core

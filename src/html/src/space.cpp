@@ -19,6 +19,7 @@
 namespace orl::html::core {
 
 char *spaceBase = nullptr;
+std::size_t spaceSize = 0;
 
 namespace {
 
@@ -85,6 +86,7 @@ Space::Space() {
         const auto aligned = (std::uintptr_t(memory) + granuleSize - 1) & ~std::uintptr_t(granuleSize - 1);
         spaceBase = reinterpret_cast<char *>(aligned);
         granules_ = size / granuleSize;
+        spaceSize = size;
         commit(1);
         return;
     }

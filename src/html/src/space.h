@@ -26,6 +26,11 @@ constexpr std::size_t granuleSize = std::size_t(64) << 10;
 constexpr std::size_t slotSize = 512;
 
 extern char *spaceBase; ///< Set once, before the first arena exists.
+extern std::size_t spaceSize;
+
+inline bool isInSpace(const void *address) {
+    return std::uintptr_t(address) - std::uintptr_t(spaceBase) < spaceSize;
+}
 
 template<class T>
 inline T *at(Ref ref) {

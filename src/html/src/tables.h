@@ -13,7 +13,18 @@ namespace orl::html::core {
 /// The controls of a form, which a copy of the form has in common with it.
 using FormList = std::vector<NodeRec *>;
 
+/// The children of the parent that was last asked for one by its place, right as long as the version is the
+/// arena's.
+struct ChildIndex {
+    const NodeRec *parent = nullptr;
+    std::uint64_t version = 0;
+    std::vector<NodeRec *> nodes;
+    std::vector<NodeRec *> elements;
+    std::vector<std::uint32_t> elementPlaces; ///< of each node: how many elements stand before it
+};
+
 struct Arena::Tables {
+    ChildIndex children;
     std::unordered_map<const NodeRec *, std::shared_ptr<FormList>> forms;
     std::unordered_map<const NodeRec *, std::string_view> baseUris;
     std::unordered_map<const NodeRec *, std::uint64_t> moreHolders;
