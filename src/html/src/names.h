@@ -82,6 +82,8 @@ struct alignas(16) TagRec {
     std::uint16_t flags;
     TagId id;       ///< of the name as it is
     TagId normalId; ///< of the name in lower case
+    /// Of a name that the page brought along: the tree builder's newest open element of it, counted from 1.
+    mutable std::uint32_t newestOpen = 0;
 
     std::string_view name() const { return {text, length}; }
     std::string_view normalName() const { return {normalText, normalLength}; }
