@@ -537,7 +537,7 @@ bool HtmlTreeBuilder::endItem(End &tag, bool inItsScope) {
 }
 
 bool HtmlTreeBuilder::endHeading(End &tag) {
-    if (!inScope(TagSet::Headings)) return error(State::InBody);
+    if (!inScope({TagId::H1, TagId::H2, TagId::H3, TagId::H4, TagId::H5, TagId::H6})) return error(State::InBody);
     generateImpliedEndTags(tag.id());
     if (!currentIs(tag.id())) error(State::InBody);
     popStackToClose(TagSet::Headings);

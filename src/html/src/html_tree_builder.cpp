@@ -330,12 +330,8 @@ bool HtmlTreeBuilder::inScope(TagId id) const {
     return place && place >= open_.newestScope();
 }
 
-bool HtmlTreeBuilder::inScope(TagSet set) const {
-    for (Place place = open_.size(); place > 0; --place) {
-        if (isInSet(open_.tag(place), set)) return true;
-        if (place <= open_.newestScope()) return false;
-    }
-    return false;
+bool HtmlTreeBuilder::inScope(std::initializer_list<TagId> ids) const {
+    return std::any_of(ids.begin(), ids.end(), [this](TagId id) { return inScope(id); });
 }
 
 bool HtmlTreeBuilder::inListItemScope(TagId id) const {

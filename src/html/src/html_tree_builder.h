@@ -101,7 +101,7 @@ private:
     void resetInsertionMode();
     State modeFor(TagId id, bool last) const;
     bool inScope(TagId id) const;
-    bool inScope(TagSet set) const;
+    bool inScope(std::initializer_list<TagId> ids) const;
     bool inListItemScope(TagId id) const;
     bool inButtonScope(TagId id) const;
     bool inTableScope(TagId id) const;

@@ -177,7 +177,8 @@ Tokeniser::Tokeniser(CharacterReader &reader, Arena &arena, ParseErrorList *erro
       settings_(settings) {}
 
 Token &Tokeniser::read() {
-    if (!selfClosingFlagAcknowledged_) [[unlikely]] {
+    if (!selfClosingFlagAcknowledged_ && !isEmitPending_)
+        [[unlikely]] { // a pending tag waits behind its text
         error("Self closing flag not acknowledged");
         selfClosingFlagAcknowledged_ = true;
     }

@@ -642,8 +642,9 @@ void Tokeniser::beforeDoctypeName() {
 
 void Tokeniser::doctypeName() {
     std::string &name = doctypePending_.name;
+    const bool lower = !settings_.preserveTagCase();
     for (const char c : reader_.consumeWhileNot(TagNameEnd))
-        name += isClass(c, UpperByte) ? char(c | 0x20) : c;
+        name += lower && isClass(c, UpperByte) ? char(c | 0x20) : c;
     if (endsDoctype()) return;
     const std::string_view c = reader_.consumeAsString();
     if (isWhite(c[0])) return transition(State::AfterDoctypeName);
