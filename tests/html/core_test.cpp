@@ -44,7 +44,8 @@ TEST_F(CoreTest, NamesAreTheSameRecordForEachUse) {
     EXPECT_EQ(at<NameRec>(arena->internName("HREF"))->lower, nameRef(NameId::Href));
     EXPECT_TRUE(at<NameRec>(arena->internName("CHECKED"))->flags & NameRec::Boolean);
     for (int i = 0; i < 1000; ++i) {
-        const std::string name = "n" + std::to_string(i);
+        std::string name = std::to_string(i);
+        name += "n";
         EXPECT_EQ(arena->internName(name), arena->internName(name));
         EXPECT_EQ(arena->tag(name)->name(), name);
     }

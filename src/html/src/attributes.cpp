@@ -53,6 +53,10 @@ Attribute::~Attribute() {
     if (record_) releaseArenaOf(record_);
 }
 
+Attribute Attribute::createFromEncoded(std::string_view key, std::string_view encodedValue) {
+    return Attribute(key, Entities::unescape(encodedValue, true));
+}
+
 std::string Attribute::getKey() const {
     return std::string(record_->key());
 }
@@ -184,7 +188,8 @@ void Attributes::addAll(const Attributes &other) const {
 
 std::vector<Attribute> Attributes::asList() const {
     std::vector<Attribute> all;
-    for (const Attribute &attribute : *this) all.push_back(attribute);
+    for (const Attribute &attribute : *this)
+        all.push_back(attribute);
     return all;
 }
 
