@@ -1,5 +1,6 @@
 // Reading elements: text, classes, searches, siblings, and how they print.
 #include "page.h"
+#include "utf8.h"
 
 #include <orl/html/string_builder.h>
 
@@ -169,6 +170,76 @@ TEST(ElementSearchTest, ByEveryKindOfSign) {
     EXPECT_FALSE(document.getElementById("P2"));
 }
 
+/// Searches of an unchanged tree are answered from columns; every change must be seen by the next one.
+TEST(ElementSearchTest, RepeatedSearchesSeeEveryChange) {
+    const Document document = page("");
+    const Element body = document.body();
+    for (int i = 0; i < 300; ++i)
+        body.append("<p class='a b'>x<i class=a></i></p>");
+    const Element p = body.child(150), i = p.child(0);
+    const Attribute attribute = p.getAttributes().asList().at(0);
+    const Element removed = body.child(7), loose = document.createElement("p").addClass("a");
+    struct Change {
+        const char *what;
+        std::function<void()> act;
+    };
+    const std::vector<Change> changes = {
+        {"nothing", [] {}},
+        {"class", [&] { i.addClass("q"); }},
+        {"attribute", [&] { attribute.setValue("q"); }},
+        {"key", [&] { attribute.setKey("id"); }},
+        {"list", [&] { i.getAttributes().remove("class"); }},
+        {"put", [&] { i.getAttributes().put(Attribute("class", "a")); }},
+        {"tag", [&] { i.tagName("p"); }},
+        {"removal", [&] { removed.remove(); }},
+        {"return", [&] { body.prependChild(removed); }},
+        {"new element", [&] { body.appendElement("p"); }},
+        {"loose element", [&] { body.appendChild(loose); }},
+        {"fragment", [&] { p.append("<p class=a>"); }},
+        {"fragment before", [&] { p.before("<i></i>"); }},
+        {"inner", [&] { p.html("<i class='a b'></i>"); }},
+        {"wrap", [&] { p.wrap("<div class=a></div>"); }},
+        {"unwrap", [&] { p.parent().unwrap(); }},
+        {"text", [&] { body.child(3).text(""); }},
+        {"empty", [&] { body.child(4).empty(); }},
+        {"replacement", [&] { body.child(5).replaceWith(Element(Tag::valueOf("i"), "")); }},
+        {"normal form", [&] { document.normalise(); }},
+        {"keys", [&] { p.attr("CLASS", "z").removeAttr("class").getAttributes().lowercaseAllKeys(); }},
+    };
+    for (const Change &change : changes) {
+        for (const Element &root : {Element(document), body}) {
+            root.getElementsByTag("p");
+            root.getElementsByTag("p");
+            change.act();
+            Elements tags, classes;
+            for (const Element &element : root.getAllElements()) {
+                if (element.tagName() == "p") tags.add(element);
+                if (element.hasClass("a")) classes.add(element);
+            }
+            for (int round = 0; round < 3; ++round) {
+                EXPECT_EQ(root.getElementsByTag("p"), tags) << change.what;
+                EXPECT_EQ(root.getElementsByClass("a"), classes) << change.what;
+            }
+        }
+    }
+}
+
+/// The search by text looks at stretches of the whole tree's text; each element's own text() is what counts.
+TEST(ElementSearchTest, ContainedTextIsThatOfEachElement) {
+    const Document document =
+        page("<div> <p> a <b>b </b><br>c</p>x<i> y</i> <pre> d  e <u> f</u></pre>G\u00dcg</div>"
+             "<p>  <b> b</b>c<div><div> x </div></div>");
+    const Elements all = document.getAllElements();
+    for (const char *wanted :
+         {"a", "b", "a b", "b c", "bc", " c", "c ", "d  e", "f", "x y", "xy", "y ", "g\u00fcG", "", "zz"}) {
+        Elements expected;
+        const std::string lower = core::lowerCase(wanted);
+        for (const Element &element : all)
+            if (core::lowerCase(element.text()).find(lower) != std::string::npos) expected.add(element);
+        EXPECT_EQ(document.getElementsContainingText(wanted), expected) << wanted;
+    }
+}
+
 TEST(ElementSearchTest, NothingToLookForFails) {
     const Element body = page("").body();
     EXPECT_EQ(failure([&] { body.getElementsByTag(""); }), emptyText);
@@ -240,6 +311,19 @@ TEST(ElementTest, ParentsFromTheNearestUp) {
     EXPECT_EQ(parents.last(), document);
     EXPECT_EQ(document.getElementById("b").ownerDocument(), document);
     EXPECT_FALSE(document.parent());
+}
+
+TEST(ElementTest, CssSelector) {
+    const Document document =
+        page("<ul><li>1<li>2<li class='x  y x'>3<li class=y>4</ul><div id=d><p><b>5</b><o:p>6");
+    const Elements items = document.getElementsByTag("li");
+    EXPECT_EQ(items[1].cssSelector(), "html > body > ul > li:nth-child(2)");
+    EXPECT_EQ(items[2].cssSelector(), "html > body > ul > li.x.y");
+    EXPECT_EQ(items[3].cssSelector(), "html > body > ul > li.y:nth-child(4)");
+    EXPECT_EQ(first(document, "b").cssSelector(), "#d > p > b");
+    EXPECT_EQ(first(document, "o:p").cssSelector(), "#d > p > o|p");
+    EXPECT_EQ(document.getElementById("d").cssSelector(), "#d");
+    EXPECT_EQ(document.createElement("i").addClass("z").cssSelector(), "i.z");
 }
 
 TEST(ElementTest, TagsAndValues) {

@@ -1,7 +1,9 @@
 // The small helpers: text accumulator, white space, ordered set, URL resolving.
 #include "page.h"
 
+#include <orl/html/data_util.h>
 #include <orl/html/ordered_set.h>
+#include <orl/html/simple_dictionary.h>
 #include <orl/html/string_builder.h>
 #include <orl/html/string_util.h>
 
@@ -181,6 +183,55 @@ TEST(OrderedSetDeathTest, APlaceThatDoesNotExistStopsTheProgram) {
     EXPECT_DEATH(set.moveObject("b", 0), "Attempting to move an object at an index that does not exist");
     EXPECT_DEATH(set.move(0, 1), "Attempting to move an object at or to an index that does not exist");
     EXPECT_DEATH(set.insert("b", 2), "Attempting to insert an object at an index that does not exist");
+}
+
+TEST(SimpleDictionaryTest, IsAMap) {
+    SimpleDictionary<std::string, int> map;
+    map.put("a", 1);
+    map.put("b", 2);
+    map.put("a", 3);
+    map.remove("b");
+    EXPECT_EQ(map.get("a"), 3);
+    EXPECT_FALSE(map.get("b"));
+    EXPECT_THAT(map.keySet(), testing::ElementsAre("a"));
+    EXPECT_TRUE(map.containsKey("a"));
+    map.clear();
+    EXPECT_EQ(map.count(), 0U);
+}
+
+class FileTest : public testing::Test {
+protected:
+    ~FileTest() override { std::filesystem::remove(path); }
+    void write(std::string_view text) const { std::ofstream(path, std::ios::binary) << text; }
+
+    const std::filesystem::path path = testing::TempDir() + "orl_html_file_test.html";
+};
+
+TEST_F(FileTest, LinesWhateverTheChunks) {
+    for (const std::size_t chunk : {1, 2, 3, 4096}) {
+        write("one\r\n\r\ntwo\rthree\r\r\nend");
+        StreamReader reader(path, "\r\n", {}, chunk);
+        for (int round = 0; round < 2; ++round) {
+            EXPECT_EQ(reader.nextLine(), "one");
+            EXPECT_EQ(reader.nextLine(), "");
+            EXPECT_EQ(reader.nextLine(), "two\rthree\r");
+            EXPECT_EQ(reader.nextLine(), "end");
+            EXPECT_FALSE(reader.nextLine());
+            EXPECT_TRUE(reader.atEof());
+            reader.rewind();
+        }
+    }
+}
+
+TEST_F(FileTest, PagesInFiles) {
+    write("\xef\xbb\xbf<title>a</title>\n<pre>\nb\n");
+    EXPECT_EQ(DataUtil::load(path, "http://h/").title(), "a");
+    EXPECT_EQ(DataUtil::load(path, "http://h/").body().textNodes().size(), 0U);
+    write("<p>\xe4\n\xdf");
+    EXPECT_EQ(DataUtil::load(path, "", *TextEncoding::named("latin1")).text(), "\u00e4 \u00df");
+    EXPECT_EQ(DataUtil::load(path, "").text(), "\ufffd \ufffd");
+    EXPECT_EQ(failure([&] { DataUtil::load(path.string() + ".none", ""); }, ExceptionType::IOException),
+              "Cannot open " + path.string() + ".none");
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include <orl/html/string_builder.h>
 
 #include <functional>
+#include <thread>
 
 namespace orl::html {
 namespace {
@@ -208,8 +209,7 @@ TEST_F(TreeTest, AnEmptiedElementsHeldChildGoesOnNamingIt) {
     EXPECT_FALSE(a.parent());
 }
 
-// ---- Leaves
-// ------------------------------------------------------------------------------------------------------
+// ---- Leaves ----
 
 TEST(LeafTest, TextMovesIntoItsAttributesWhenSomebodyAsks) {
     const TextNode node("a  b", "http://h/");
@@ -281,8 +281,7 @@ TEST(LeafTest, HowLeavesPrint) {
     EXPECT_TRUE(cases[0].node.is<TextNode>());
 }
 
-// ---- Walks and copies
-// --------------------------------------------------------------------------------------------
+// ---- Walks and copies ----
 
 class Trace : public NodeVisitor {
 public:
@@ -354,8 +353,7 @@ TEST(CopyTest, DocumentsAndForms) {
     EXPECT_EQ(document.getElementsByTag("form").forms().size(), 1U);
 }
 
-// ---- Lifetimes
-// ---------------------------------------------------------------------------------------------------
+// ---- Lifetimes ----
 
 TEST(LifetimeTest, AHeldNodeLosesAParentThatNobodyHolds) {
     Element p, b;
@@ -457,8 +455,29 @@ TEST(LifetimeTest, AFormKeepsItsControls) {
     EXPECT_FALSE(b.parent());
 }
 
-// ---- Depth and breadth
-// -------------------------------------------------------------------------------------------
+TEST(LifetimeTest, TreesOfDifferentThreadsAreIndependent) {
+    const std::size_t before = core::spaceInUse();
+    std::vector<std::jthread> threads;
+    for (int thread = 0; thread < 4; ++thread) {
+        threads.emplace_back([thread] {
+            for (int round = 0; round < 200; ++round) {
+                const Document document =
+                    page("<div><p class=x data-new" + std::to_string(round) + ">1</div>");
+                const Element p = first(document, "p");
+                for (int i = 0; i < 20; ++i)
+                    p.appendChild(Element(Tag::valueOf("u-" + std::to_string(thread)), ""));
+                ASSERT_EQ(document.getElementsByTag("u-" + std::to_string(thread)).size(), 20U);
+                ASSERT_EQ(document.copy().text(), "1");
+            }
+        });
+    }
+    Document handedOver = page("<p>a</p>");
+    threads.emplace_back([document = std::move(handedOver)]() mutable { document.body().append("<p>b"); });
+    threads.clear();
+    EXPECT_EQ(core::spaceInUse(), before);
+}
+
+// ---- Depth and breadth ----
 
 /// A tree of a million levels, the deepest of which holds a text.
 Document deepDocument() {

@@ -36,8 +36,7 @@ NodeRec *newCarrier() {
 
 } // namespace
 
-// ---- Attribute
-// ---------------------------------------------------------------------------------------------------
+// ---- Attribute ----
 
 Attribute::Attribute(core::AttrRec *record) : record_(record) {
     holdArenaOf(record_);
@@ -113,8 +112,7 @@ Attribute Attribute::clone() const {
     return Attribute(copy);
 }
 
-// ---- Attributes
-// --------------------------------------------------------------------------------------------------
+// ---- Attributes ----
 
 Attributes::Attributes() : Attributes(newCarrier()) {}
 

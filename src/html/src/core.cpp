@@ -31,8 +31,7 @@ std::string_view textKey(Kind kind) {
 
 } // namespace
 
-// ---- Memory
-// ------------------------------------------------------------------------------------------------------
+// ---- Memory ----
 
 Arena *Arena::create(std::size_t inputBytes) {
     openSpace();
@@ -130,8 +129,7 @@ Arena &Arena::merge(Arena &left, Arena &right) {
     return stays;
 }
 
-// ---- Names
-// -------------------------------------------------------------------------------------------------------
+// ---- Names ----
 
 namespace {
 
@@ -233,8 +231,7 @@ const TagRec *Arena::dynamicTag(std::string_view name, std::uint16_t flags, cons
     return record;
 }
 
-// ---- Nodes
-// -------------------------------------------------------------------------------------------------------
+// ---- Nodes ----
 
 NodeRec *Arena::newDoctype(std::string_view name, std::string_view pubSysKey, std::string_view publicId,
                            std::string_view systemId) {
@@ -372,8 +369,7 @@ const OutputSettings *settingsIfAny(const NodeRec *document) {
     return arenaOf(document).tablesIfAny()->settings.at(document).get();
 }
 
-// ---- Holders and what is given back
-// ------------------------------------------------------------------------------
+// ---- Holders and what is given back ----
 
 void Arena::addToForm(NodeRec *form, NodeRec *control) {
     auto &list = tables().forms[form];

@@ -148,8 +148,7 @@ inline DocumentRec *documentOf(NodeRec *document) {
     return reinterpret_cast<DocumentRec *>(document);
 }
 
-// ---- Links
-// -------------------------------------------------------------------------------------------------------
+// ---- Links ----
 
 inline NodeRec *nodeAt(Ref ref) {
     return ref ? at<NodeRec>(ref) : nullptr;
@@ -294,8 +293,7 @@ inline NodeRec *nextInTree(const NodeRec *node, const NodeRec *root) {
     return nextAfter(node, root);
 }
 
-// ---- Attributes
-// --------------------------------------------------------------------------------------------------
+// ---- Attributes ----
 
 inline AttrHeader *attrHeader(const NodeRec *node) {
     return at<AttrHeader>(node->branch.attrs) - 1;
@@ -334,8 +332,7 @@ inline std::string_view leafText(const NodeRec *leaf) {
     return {leaf->text, leaf->length};
 }
 
-// ---- Arena
-// -------------------------------------------------------------------------------------------------------
+// ---- Arena ----
 
 class Arena {
 public:
@@ -539,8 +536,7 @@ inline AttrRec *Arena::newAttrs(NodeRec *node, std::size_t count) {
     return block;
 }
 
-// ---- Holders
-// -----------------------------------------------------------------------------------------------------
+// ---- Holders ----
 
 inline void hold(NodeRec *node) {
     ++arenaOf(node).held_;

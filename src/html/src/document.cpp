@@ -119,8 +119,7 @@ const Document &Document::normalise() const {
     return *this;
 }
 
-// ---- Encoding
-// ----------------------------------------------------------------------------------------------------
+// ---- Encoding ----
 
 TextEncoding Document::charset() const {
     return outputSettings().encoder();
@@ -183,8 +182,7 @@ void Document::ensureMetaCharsetElement() const {
         ensureDeclaration(*this, encoding);
 }
 
-// ---- Settings
-// ----------------------------------------------------------------------------------------------------
+// ---- Settings ----
 
 OutputSettings &Document::outputSettings() const {
     return settingsOf(record_);

@@ -55,8 +55,7 @@ bool Element::isKindOf(const core::NodeRec *record) {
     return isElement(record);
 }
 
-// ---- Tag and identity
-// --------------------------------------------------------------------------------------------
+// ---- Tag and identity ----
 
 std::string Element::tagName() const {
     return std::string(tagOf(record_)->name());
@@ -100,8 +99,7 @@ std::map<std::string, std::string> Element::dataset() const {
     return getAttributes().dataset();
 }
 
-// ---- Around the element
-// ------------------------------------------------------------------------------------------
+// ---- Around the element ----
 
 Elements Element::parents() const {
     std::vector<Element> all;
@@ -135,8 +133,7 @@ std::vector<DataNode> Element::dataNodes() const {
     return all;
 }
 
-// ---- Surgery
-// -----------------------------------------------------------------------------------------------------
+// ---- Surgery ----
 
 const Element &Element::appendChild(const Node &node) const {
     reparentChild(node);
@@ -212,8 +209,7 @@ const Element &Element::after(std::string_view html) const {
     return *this;
 }
 
-// ---- Among the child elements of the parent
-// ----------------------------------------------------------------------
+// ---- Among the child elements of the parent ----
 
 Elements Element::siblingElements() const {
     std::vector<Element> all;
@@ -258,8 +254,49 @@ std::size_t Element::elementSiblingIndex() const {
     return elementIndex(record_);
 }
 
-// ---- Text
-// --------------------------------------------------------------------------------------------------------
+namespace {
+
+/// How an element is told from its siblings, as far as its tag and classes do that.
+std::string ownSelector(const Element &element) {
+    std::string selector = element.tagName();
+    std::ranges::replace(selector, ':', '|');
+    for (const std::string &name : element.classNames())
+        selector += '.' + name;
+    return selector;
+}
+
+/// Whether the parent has another child that the same tag and classes fit.
+bool hasDouble(const Element &element) {
+    const TagName name(tagOf(element.record())->normalName());
+    const OrderedSet<std::string> classes = element.classNames();
+    return std::ranges::any_of(element.siblingElements(), [&](const Element &sibling) {
+        return name.isOf(sibling.record()) &&
+               std::ranges::all_of(classes, [&](const std::string &c) { return sibling.hasClass(c); });
+    });
+}
+
+} // namespace
+
+std::string Element::cssSelector() const {
+    std::vector<std::string> parts;
+    for (Element element = *this;; element = element.parent()) {
+        if (const std::string id = element.id(); !id.empty()) {
+            parts.push_back('#' + id);
+            break;
+        }
+        parts.push_back(ownSelector(element));
+        const Element above = element.parent();
+        if (!above || above.is<Document>()) break;
+        if (hasDouble(element))
+            parts.back() += ":nth-child(" + std::to_string(element.elementSiblingIndex() + 1) + ')';
+    }
+    std::string path = parts.back();
+    for (std::size_t i = parts.size() - 1; i-- > 0;)
+        path += " > " + parts[i];
+    return path;
+}
+
+// ---- Text ----
 
 std::string Element::text() const {
     return textOf(record_);
@@ -283,8 +320,7 @@ std::string Element::data() const {
     return dataOf(record_);
 }
 
-// ---- Classes
-// -----------------------------------------------------------------------------------------------------
+// ---- Classes ----
 
 std::string Element::className() const {
     return std::string(trimmed(attr("class")));
@@ -347,8 +383,7 @@ const Element &Element::html(std::string_view html) const {
     return append(html);
 }
 
-// ---- FormElement
-// -------------------------------------------------------------------------------------------------
+// ---- FormElement ----
 
 FormElement::FormElement(const Tag &tag, std::string_view baseUri)
     : FormElement(newLoose(Kind::Form, tag, baseUri)) {}

@@ -80,8 +80,7 @@ std::string Node::nodeName() const {
     return {};
 }
 
-// ---- Attributes
-// --------------------------------------------------------------------------------------------------
+// ---- Attributes ----
 
 std::string Node::attr(std::string_view key) const {
     checkNotEmpty(key);
@@ -133,8 +132,7 @@ std::string Node::absUrl(std::string_view key) const {
     return hasAttr(key) ? StringUtil::resolve(baseUriOf(record_), attr(key)) : std::string();
 }
 
-// ---- Around the node
-// ---------------------------------------------------------------------------------------------
+// ---- Around the node ----
 
 Node Node::childNode(std::size_t index) const {
     return Node(childNodeAt(record_, index));
@@ -196,8 +194,7 @@ std::size_t Node::siblingIndex() const {
     return core::siblingIndex(record_);
 }
 
-// ---- Surgery
-// -----------------------------------------------------------------------------------------------------
+// ---- Surgery ----
 
 void Node::remove() const {
     if (const Node above = parent()) above.removeChild(*this);
@@ -312,8 +309,7 @@ void Node::reparentChild(const Node &node) const {
     addChildren({node});
 }
 
-// ---- Walks, printing, copies
-// -------------------------------------------------------------------------------------
+// ---- Walks, printing, copies ----
 
 const Node &Node::traverse(NodeVisitor &visitor) const {
     NodeTraversor(visitor).traverse(*this);
@@ -363,8 +359,7 @@ Node Node::copy() const {
     return Node(copyTree(record_));
 }
 
-// ---- Leaves
-// ------------------------------------------------------------------------------------------------------
+// ---- Leaves ----
 
 namespace {
 

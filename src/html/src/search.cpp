@@ -2,6 +2,7 @@
 
 #include "checks.h"
 #include "class_match.h"
+#include "columns.h"
 #include "orl/html/elements.h"
 #include "text.h"
 #include "tree.h"
@@ -79,11 +80,90 @@ Elements byIndex(NodeRec *root, Compares compares) {
 
 } // namespace
 
+namespace core {
+
+namespace {
+
+/// The text of a tree in lower case, and where in it that of each element stands. What an element's text() is
+/// on its own is its stretch, trimmed: whatever stands before an element only decides about blanks at its
+/// start.
+class LowerText {
+public:
+    explicit LowerText(NodeRec *root) {
+        std::vector<std::size_t> open;
+        for (NodeRec *node = root;;) {
+            enter(node, open);
+            if (NodeRec *child = firstChild(node)) {
+                node = child;
+                continue;
+            }
+            leave(node, open);
+            while (node != root && !node->next) {
+                node = parent(node);
+                leave(node, open);
+            }
+            if (node == root) return;
+            node = nextSibling(node);
+        }
+    }
+
+    Found elementsWith(std::string_view wanted) const {
+        std::vector<std::size_t> places;
+        for (std::size_t at = text_.find(wanted); at < text_.size(); at = text_.find(wanted, at + 1))
+            places.push_back(at);
+        Found found;
+        for (const Stretch &stretch : elements_) {
+            const std::string_view own =
+                trimmed(std::string_view(text_).substr(stretch.begin, stretch.end - stretch.begin));
+            const auto begin = std::size_t(own.data() - text_.data());
+            const auto place = std::ranges::lower_bound(places, begin);
+            if (wanted.empty() || (place != places.end() && *place + wanted.size() <= begin + own.size()))
+                found.push_back(stretch.element);
+        }
+        return found;
+    }
+
+private:
+    struct Stretch {
+        NodeRec *element;
+        std::size_t begin, end;
+    };
+
+    void enter(NodeRec *node, std::vector<std::size_t> &open) {
+        if (isText(node)) {
+            Output piece;
+            appendTextNode(piece, node, preservesWhitespace(parentOf(node)), text_.ends_with(' '));
+            text_ += lowerCase(piece.view());
+        } else if (isElement(node)) {
+            open.push_back(elements_.size());
+            elements_.push_back({node, text_.size(), 0});
+            if (breaksText(tagOf(node)) && !text_.empty() && text_.back() != ' ') text_ += ' ';
+        }
+    }
+    void leave(const NodeRec *node, std::vector<std::size_t> &open) {
+        if (!isElement(node)) return;
+        elements_[open.back()].end = text_.size();
+        open.pop_back();
+    }
+
+    std::string text_;
+    std::vector<Stretch> elements_; ///< in document order
+};
+
+} // namespace
+
+Found elementsContaining(NodeRec *root, std::string_view lowerText) {
+    return LowerText(root).elementsWith(lowerText);
+}
+
+} // namespace core
+
 Elements Element::getElementsByTag(std::string_view tagName) const {
     checkNotEmpty(tagName);
     const std::string lower = lowerCase(tagName);
     const TagName name(trimmed(lower));
-    return asElements(findAll(record_, [&](NodeRec *element) { return name.isOf(element); }));
+    return asElements(findInColumn(record_, &Columns::tags, &Columns::tagExamples,
+                                   [&](const NodeRec *element) { return name.isOf(element); }));
 }
 
 Element Element::getElementById(std::string_view id) const {
@@ -94,7 +174,8 @@ Element Element::getElementById(std::string_view id) const {
 Elements Element::getElementsByClass(std::string_view className) const {
     checkNotEmpty(className);
     const ClassName name(className);
-    return asElements(findAll(record_, [&](NodeRec *element) { return name.isIn(element); }));
+    return asElements(findInColumn(record_, &Columns::classes, &Columns::classExamples,
+                                   [&](const NodeRec *element) { return name.isIn(element); }));
 }
 
 Elements Element::getElementsByAttribute(std::string_view key) const {
@@ -157,10 +238,7 @@ Elements Element::getElementsByIndexEquals(std::ptrdiff_t index) const {
 }
 
 Elements Element::getElementsContainingText(std::string_view searchText) const {
-    const std::string wanted = lowerCase(searchText);
-    return asElements(findAll(record_, [&](NodeRec *element) {
-        return lowerCase(textOf(element)).find(wanted) != std::string::npos;
-    }));
+    return asElements(elementsContaining(record_, lowerCase(searchText)));
 }
 
 Elements Element::getElementsContainingOwnText(std::string_view searchText) const {

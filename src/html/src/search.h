@@ -46,6 +46,9 @@ NodeRec *findFirst(NodeRec *root, Matches matches) {
     return nullptr;
 }
 
+/// The elements whose text() in lower case contains the given text; linear in the size of the tree.
+Found elementsContaining(NodeRec *root, std::string_view lowerText);
+
 inline std::string_view idOf(const NodeRec *element) {
     static const AnyCaseKey key("id");
     const AttrRec *found = findAttr(element, key);

@@ -1,6 +1,7 @@
 // What an arena holds beside its nodes, for the few pages that need it.
 #pragma once
 
+#include "columns.h"
 #include "core.h"
 
 #include <memory>
@@ -25,6 +26,7 @@ struct ChildIndex {
 
 struct Arena::Tables {
     ChildIndex children;
+    Columns columns;
     std::unordered_map<const NodeRec *, std::shared_ptr<FormList>> forms;
     std::unordered_map<const NodeRec *, std::string_view> baseUris;
     std::unordered_map<const NodeRec *, std::uint64_t> moreHolders;

@@ -170,43 +170,34 @@ void appendEscapedValue(Output &out, std::string_view text) {
     copyText<Copy::EscapeValue>(out, text, false);
 }
 
-namespace {
-
-bool endsWithBlank(const Output &out) {
-    return !out.empty() && out.last() == ' ';
-}
-
-void appendTextNode(Output &out, const NodeRec *node, bool preserve) {
+void appendTextNode(Output &out, const NodeRec *node, bool preserve, bool afterBlank) {
     const std::string_view text = leafText(node);
     if (preserve)
         out.append(text);
     else
-        appendNormalised(out, text, endsWithBlank(out));
+        appendNormalised(out, text, afterBlank);
 }
-
-} // namespace
 
 std::string textOf(const NodeRec *root) {
     Output out;
+    const auto afterBlank = [&out] { return !out.empty() && out.last() == ' '; };
     for (const NodeRec *node = root; node; node = nextInTree(node, root)) {
-        if (isText(node)) {
-            appendTextNode(out, node, preservesWhitespace(parentOf(node)));
-        } else if (isElement(node)) {
-            const TagRec *tag = tagOf(node);
-            if ((tag->has(TagRec::Block) || tag->id == TagId::Br) && !out.empty() && out.last() != ' ')
-                out.push_back(' ');
-        }
+        if (isText(node))
+            appendTextNode(out, node, preservesWhitespace(parentOf(node)), afterBlank());
+        else if (isElement(node) && breaksText(tagOf(node)) && !out.empty() && !afterBlank())
+            out.push_back(' ');
     }
     return std::string(trimmed(out.view()));
 }
 
 std::string ownTextOf(const NodeRec *element) {
     Output out;
+    const auto afterBlank = [&out] { return !out.empty() && out.last() == ' '; };
     const bool preserve = preservesWhitespace(element);
     for (const NodeRec *node = firstChild(element); node; node = nextSibling(node)) {
         if (isText(node))
-            appendTextNode(out, node, preserve);
-        else if (isElement(node) && tagOf(node)->id == TagId::Br && !endsWithBlank(out))
+            appendTextNode(out, node, preserve, afterBlank());
+        else if (isElement(node) && tagOf(node)->id == TagId::Br && !afterBlank())
             out.push_back(' ');
     }
     return std::string(trimmed(out.view()));

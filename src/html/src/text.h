@@ -33,6 +33,13 @@ inline bool preservesWhitespace(const NodeRec *element) {
     return above && isElement(above) && tagOf(above)->has(TagRec::PreserveWhitespace);
 }
 
+/// What text() makes of one text node; `afterBlank` says that a blank stands before it.
+void appendTextNode(Output &out, const NodeRec *node, bool preserve, bool afterBlank);
+/// Whether text() puts a blank where such an element starts.
+inline bool breaksText(const TagRec *tag) {
+    return tag->has(TagRec::Block) || tag->id == TagId::Br;
+}
+
 std::string textOf(const NodeRec *root);
 std::string ownTextOf(const NodeRec *element);
 bool hasTextIn(const NodeRec *root);

@@ -122,6 +122,10 @@ public:
     /// SelectorParseException.
     Elements select(std::string_view cssQuery) const;
 
+    /// A path of tags and classes that leads to this element and no other, from the nearest element with an
+    /// id or from the top.
+    std::string cssSelector() const;
+
     // ---- Text.
 
     /// The text of all text nodes below: runs of white space become one blank, except in elements that

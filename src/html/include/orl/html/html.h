@@ -2,6 +2,7 @@
 #pragma once
 
 #include <orl/html/attributes.h>
+#include <orl/html/data_util.h>
 #include <orl/html/document.h>
 #include <orl/html/element.h>
 #include <orl/html/elements.h>
@@ -13,6 +14,7 @@
 #include <orl/html/parse_error_list.h>
 #include <orl/html/parse_settings.h>
 #include <orl/html/parser.h>
+#include <orl/html/simple_dictionary.h>
 #include <orl/html/string_builder.h>
 #include <orl/html/string_util.h>
 #include <orl/html/tag.h>
