@@ -161,6 +161,16 @@ TEST_F(TreeTest, WhatCannotBeDoneFailsAndChangesNothing) {
         {"replace another's child", [&] { b.replaceChild(a, i); }, "Must be true"},
         {"put into itself", [&] { b.appendChild(b); }, "Must be false"},
         {"put below itself", [&] { b.appendChild(root); }, "Must be false"},
+        {"add one that cannot be",
+         [&] {
+             b.addChildren({a, root});
+         },
+         "Must be false"},
+        {"insert one that is missing",
+         [&] {
+             root.insertChildren(0, {i, Node()});
+         },
+         missing},
         {"put into a text", [&] { TextNode("x", "").addChildren({a}); }, "Must be true"},
         {"before the start", [&] { root.insertChildren(-5, {loose}); }, "Insert position out of bounds."},
         {"past the end", [&] { root.insertChildren(4, {loose}); }, "Insert position out of bounds."},

@@ -281,17 +281,27 @@ void Node::removeChild(const Node &node) const {
     leaveParent(rec(node));
 }
 
-void Node::addChildren(const std::vector<Node> &nodes) const {
+namespace {
+
+void checkPlaces(NodeRec *parent, const std::vector<Node> &nodes) {
     for (const Node &node : nodes) {
         checkPresent(bool(node));
-        place(record_, nullptr, rec(node));
+        checkPlace(parent, rec(node));
     }
 }
 
+} // namespace
+
+void Node::addChildren(const std::vector<Node> &nodes) const {
+    checkPlaces(record_, nodes);
+    for (const Node &node : nodes)
+        place(record_, nullptr, rec(node));
+}
+
 void Node::addChildren(std::size_t index, const std::vector<Node> &nodes) const {
+    checkPlaces(record_, nodes);
     NodeRec *reference = childNodeAt(record_, index);
     for (std::size_t i = nodes.size(); i-- > 0;) {
-        checkPresent(bool(nodes[i]));
         NodeRec *node = rec(nodes[i]);
         // A node that was a child already makes those after it move up before it is put at the place.
         const bool wasChild = isLinked(node) && core::parent(node) == record_;

@@ -12,13 +12,6 @@ namespace {
 /// Up to this place a child is found by walking.
 constexpr std::size_t nearby = 16;
 
-void checkNoRing(const NodeRec *parent, const NodeRec *node) {
-    checkFalse(parent == node);
-    if (!firstChild(node)) return;
-    for (const NodeRec *above = parentOf(parent); above; above = parentOf(above))
-        checkFalse(above == node);
-}
-
 /// The children of the parent in question, indexed.
 const ChildIndex &childIndex(NodeRec *parent) {
     Arena &arena = arenaOf(parent);
@@ -39,16 +32,28 @@ const ChildIndex &childIndex(NodeRec *parent) {
 
 } // namespace
 
-void place(NodeRec *parent, NodeRec *reference, NodeRec *node) {
+void checkPlace(const NodeRec *parent, const NodeRec *node) {
     checkTrue(isElement(parent));
-    checkNoRing(parent, node);
-    if (reference == node) reference = nextSibling(node);
-    ++Arena::merge(arenaOf(parent), arenaOf(node)).version;
+    checkFalse(parent == node);
+    if (!firstChild(node) || &arenaOf(parent) != &arenaOf(node)) return;
+    for (const NodeRec *above = parentOf(parent); above; above = parentOf(above))
+        checkFalse(above == node);
+}
+
+void placeUnchecked(NodeRec *parent, NodeRec *reference, NodeRec *node) {
+    ++arenaOf(parent).version;
     leaveParent(node);
     if (reference)
         insertBefore(reference, node);
     else
         append(parent, node);
+}
+
+void place(NodeRec *parent, NodeRec *reference, NodeRec *node) {
+    checkPlace(parent, node);
+    if (reference == node) reference = nextSibling(node);
+    Arena::merge(arenaOf(parent), arenaOf(node));
+    placeUnchecked(parent, reference, node);
 }
 
 NodeRec *copyTree(NodeRec *root) {

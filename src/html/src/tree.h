@@ -13,6 +13,12 @@ namespace orl::html::core {
 /// it.
 void place(NodeRec *parent, NodeRec *reference, NodeRec *node);
 
+/// What place() checks: "Must be true" unless the parent is an element, "Must be false" if a ring would come
+/// of it.
+void checkPlace(const NodeRec *parent, const NodeRec *node);
+/// place() for a node that the parent's arena has just made, or that stood right below `reference`.
+void placeUnchecked(NodeRec *parent, NodeRec *reference, NodeRec *node);
+
 /// A deep copy without a parent.
 NodeRec *copyTree(NodeRec *root);
 
