@@ -199,8 +199,7 @@ TEST(ParserTest, IsUsedForManyPages) {
     EXPECT_EQ(first.getElementsByTag("x").size(), 1U);
 }
 
-// ---- Pages that are made to cost time, space or the stack
-// --------------------------------------------------------
+// ---- Pages that are made to cost time, space or the stack ----
 
 std::string repeated(std::string_view text, int count) {
     std::string all;

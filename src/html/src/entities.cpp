@@ -2,13 +2,16 @@
 
 #include "character_reader.h"
 #include "escape.h"
+#include "names.h"
 #include "orl/html/exception.h"
 #include "orl/html/output_settings.h"
 #include "tokeniser.h"
 
 #include <algorithm>
+#include <bit>
 #include <charconv>
-#include <mutex>
+#include <tuple>
+#include <utility>
 
 namespace orl::html {
 
@@ -37,23 +40,15 @@ char32_t scalarOrFault(std::optional<char32_t> code) {
 
 struct Entities::EscapeMode::Tables {
     std::vector<NamedCodepoint> byName, byCodepoint;
-    std::vector<std::pair<std::string_view, std::array<char32_t, 2>>> twoScalars; ///< sorted by name
+    std::vector<char32_t> second; ///< by place in byName: the second scalar, 0 without one
+    std::vector<std::uint16_t>
+        places; ///< hash table of places in byName plus one, half empty; 0 for a free slot
 
     explicit Tables(std::string_view text);
-
-    template<class List>
-    static auto find(const List &list, std::string_view name) {
-        const auto nameOf = [](const auto &entry) {
-            if constexpr (requires { entry.name; })
-                return entry.name;
-            else
-                return entry.first;
-        };
-        const auto place =
-            std::lower_bound(list.begin(), list.end(), name,
-                             [&](const auto &entry, auto wanted) { return nameOf(entry) < wanted; });
-        return place != list.end() && nameOf(*place) == name ? &*place : nullptr;
-    }
+    void sort();
+    void hash();
+    /// The place of a name in byName; -1 if it is not there.
+    int find(std::string_view name) const;
 };
 
 /// The format stands in tools/make_entity_tables.py. The index of an entry is passed over: the lists are
@@ -63,20 +58,44 @@ Entities::EscapeMode::Tables::Tables(std::string_view text) {
     while (!reader.isEmpty()) {
         const std::string_view name = reader.consumeTo('=');
         reader.advance();
-        const char32_t first = scalarOrFault(base36(reader.consumeToAny(",;")));
-        if (reader.matchConsume(','))
-            twoScalars.push_back({name, {first, scalarOrFault(base36(reader.consumeTo(';')))}});
+        byName.push_back({scalarOrFault(base36(reader.consumeToAny(",;"))), name});
+        second.push_back(reader.matchConsume(',') ? scalarOrFault(base36(reader.consumeTo(';'))) : 0);
         reader.advance();
         reader.consumeTo('\n');
         reader.advance();
-        byName.push_back({first, name});
     }
-    const auto nameLess = [](const auto &a, const auto &b) { return a.name < b.name; };
-    std::sort(byName.begin(), byName.end(), nameLess);
-    std::sort(twoScalars.begin(), twoScalars.end());
+    sort();
+    hash();
+}
+
+void Entities::EscapeMode::Tables::sort() {
+    std::vector<std::pair<NamedCodepoint, char32_t>> entries;
+    for (std::size_t i = 0; i < byName.size(); ++i)
+        entries.emplace_back(byName[i], second[i]);
+    std::sort(entries.begin(), entries.end(), [](auto &a, auto &b) { return a.first.name < b.first.name; });
+    for (std::size_t i = 0; i < byName.size(); ++i)
+        std::tie(byName[i], second[i]) = entries[i];
     byCodepoint = byName;
     std::stable_sort(byCodepoint.begin(), byCodepoint.end(),
                      [](const auto &a, const auto &b) { return a.scalar < b.scalar; });
+}
+
+void Entities::EscapeMode::Tables::hash() {
+    places.resize(std::bit_ceil(2 * byName.size()));
+    const std::size_t mask = places.size() - 1;
+    for (std::size_t i = 0; i < byName.size(); ++i) {
+        std::size_t slot = core::hashOf(byName[i].name) & mask;
+        while (places[slot])
+            slot = (slot + 1) & mask;
+        places[slot] = std::uint16_t(i + 1);
+    }
+}
+
+int Entities::EscapeMode::Tables::find(std::string_view name) const {
+    const std::size_t mask = places.size() - 1;
+    for (std::size_t slot = core::hashOf(name) & mask; places[slot]; slot = (slot + 1) & mask)
+        if (byName[places[slot] - 1].name == name) return places[slot] - 1;
+    return -1;
 }
 
 const Entities::EscapeMode &Entities::EscapeMode::xhtml() {
@@ -124,8 +143,8 @@ const std::vector<NamedCodepoint> &Entities::EscapeMode::entitiesByCodepoint() c
 }
 
 std::optional<char32_t> Entities::EscapeMode::codepointForName(std::string_view name) const {
-    const NamedCodepoint *found = Tables::find(tables().byName, name);
-    return found ? std::optional(found->scalar) : std::nullopt;
+    const int place = tables().find(name);
+    return place < 0 ? std::nullopt : std::optional(tables().byName[std::size_t(place)].scalar);
 }
 
 std::string_view Entities::EscapeMode::nameForCodepoint(char32_t scalar) const {
@@ -146,15 +165,11 @@ bool Entities::isBaseNamedEntity(std::string_view name) {
 }
 
 std::size_t Entities::codepointsForName(std::string_view name, std::array<char32_t, 2> &into) {
-    const EscapeMode &extended = EscapeMode::extended();
-    if (const auto *two = EscapeMode::Tables::find(extended.tables().twoScalars, name)) {
-        into = two->second;
-        return 2;
-    }
-    const auto one = extended.codepointForName(name);
-    if (!one) return 0;
-    into[0] = *one;
-    return 1;
+    const EscapeMode::Tables &tables = EscapeMode::extended().tables();
+    const int place = tables.find(name);
+    if (place < 0) return 0;
+    into = {tables.byName[std::size_t(place)].scalar, tables.second[std::size_t(place)]};
+    return into[1] ? 2 : 1;
 }
 
 std::string Entities::getCharacterByName(std::string_view name) {

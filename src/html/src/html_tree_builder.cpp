@@ -67,6 +67,18 @@ void HtmlTreeBuilder::endParse() {
     TreeBuilder::endParse();
 }
 
+void HtmlTreeBuilder::runParser() {
+    for (;;) {
+        Token &token = tokeniser_->read();
+        currentToken_ = &token;
+        if (state_ == State::InBody) [[likely]]
+            inBody(token);
+        else
+            process(token, state_);
+        if (token.isEOF()) return;
+    }
+}
+
 std::vector<NodeRec *> HtmlTreeBuilder::parseFragment(Arena &arena, std::string_view input, NodeRec *context,
                                                       std::string_view baseUri, ParseErrorList &errors,
                                                       const ParseSettings &settings) {
@@ -212,11 +224,15 @@ void HtmlTreeBuilder::insert(const Token::Comment &token) {
 }
 
 void HtmlTreeBuilder::insertText(std::string_view text) {
-    const bool raw = !open_.empty() && (currentIs(TagId::Script) || currentIs(TagId::Style));
-    NodeRec *const node = raw ? arena().newData(text) : arena().newText(text);
+    NodeRec *const node = arena().newText(text);
     if (fosters()) [[unlikely]]
         return insertInFosterParent(node);
-    append(currentElement(), node);
+    append(open_.top(), node);
+}
+
+void HtmlTreeBuilder::insertRawText(std::string_view text) {
+    if (!currentIs(TagId::Script) && !currentIs(TagId::Style)) return insertText(text);
+    append(open_.top(), arena().newData(text));
 }
 
 void HtmlTreeBuilder::insertInFosterParent(NodeRec *node) {
@@ -381,15 +397,10 @@ NodeRec *HtmlTreeBuilder::cloneOf(NodeRec *element) {
     return clone;
 }
 
-void HtmlTreeBuilder::reconstructFormattingElements() {
-    const auto isDone = [](const Formatting *entry) {
-        return !entry->node || OpenElements::contains(entry->node);
-    };
+/// From the newest one that is open, or from the last marker, to the end of the list.
+void HtmlTreeBuilder::reopenFormattingElements() {
     Formatting *entry = formatting_.newest();
-    if (!entry || isDone(entry)) [[likely]]
-        return;
-    while (entry->older && !isDone(entry->older))
-        entry = entry->older;
+    while (entry->older && !isMarkerOrOpen(entry->older)) entry = entry->older;
     for (; entry; entry = entry->newer) {
         if (clonesLeft_ == 0) return formatting_.clear();
         --clonesLeft_;

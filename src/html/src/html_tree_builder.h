@@ -56,6 +56,7 @@ private:
     void initialiseParse(Arena &arena, std::string_view input, std::string_view baseUri,
                          ParseErrorList &errors, const ParseSettings &settings) override;
     void endParse() override;
+    void runParser() override;
     /// Whether the token was used; a token that is not is an error in the page and leaves no trace.
     bool process(Token &token) override;
     bool process(Token &token, State state);
@@ -81,6 +82,8 @@ private:
     void insert(const Token::Comment &token);
     void insert(const Token::Char &token) { insertText(token.data); }
     void insertText(std::string_view text);
+    /// What a script or style sheet holds.
+    void insertRawText(std::string_view text);
     void insertInFosterParent(NodeRec *node);
     bool fosters() const;
     void mergeAttributes(NodeRec *element, const Start &tag, std::unordered_set<core::Ref> &names);
@@ -111,7 +114,15 @@ private:
 
     // The list of active formatting elements.
     void pushActiveFormattingElements(NodeRec *element, TagId id);
-    void reconstructFormattingElements();
+    void reconstructFormattingElements() {
+        const Formatting *const newest = formatting_.newest();
+        if (newest && !isMarkerOrOpen(newest)) [[unlikely]]
+            reopenFormattingElements();
+    }
+    void reopenFormattingElements();
+    static bool isMarkerOrOpen(const Formatting *entry) {
+        return !entry->node || core::OpenElements::contains(entry->node);
+    }
     NodeRec *cloneOf(NodeRec *element);
 
     // The modes.

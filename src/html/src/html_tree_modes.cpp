@@ -241,7 +241,7 @@ bool HtmlTreeBuilder::afterHeadBegin(Token &token) {
 
 bool HtmlTreeBuilder::text(Token &token) {
     if (token.isCharacter()) {
-        insert(token.asCharacter());
+        insertRawText(token.asCharacter().data);
         return true;
     }
     if (token.isEOF()) {
@@ -484,6 +484,7 @@ bool HtmlTreeBuilder::exitRow(Token &token) {
 }
 
 bool HtmlTreeBuilder::inCell(Token &token) {
+    if (token.isCharacter()) return inBody(token);
     if (token.isEndTag()) {
         End &tag = token.asEndTag();
         if (isIn(tag, TagSet::InCellNames)) {

@@ -216,12 +216,6 @@ constexpr std::string_view attributeNames[] = {"class",
 static_assert(std::size(attributeNames) <= maxKnownNames);
 static_assert(attributeNames[std::size_t(NameId::Size)] == "size");
 
-/// The first 16 bytes of a name as two numbers; reads nothing past its end.
-struct Key {
-    std::uint64_t low, high;
-    bool operator==(const Key &) const = default;
-};
-
 template<class T>
 std::uint64_t load(const char *from) {
     T value;
@@ -229,7 +223,8 @@ std::uint64_t load(const char *from) {
     return value;
 }
 
-Key keyOf(const char *text, std::size_t length) {
+/// The key of a name of any length; reads nothing past its end.
+NameKey keyOf(const char *text, std::size_t length) {
     if (length > 8)
         return {load<std::uint64_t>(text), load<std::uint64_t>(text + length - 8) >> (8 * (16 - length))};
     if (length == 8) return {load<std::uint64_t>(text), 0};
@@ -243,36 +238,9 @@ Key keyOf(const char *text, std::size_t length) {
     return {low, 0};
 }
 
-/// Names of at most 16 bytes that are known from the start: an open table of small numbers, half empty at
-/// least.
-template<std::size_t Size>
-struct KeyTable {
-    static constexpr unsigned shift = 64 - std::bit_width(Size - 1);
-
-    Key keys[Size] = {};
-    std::uint16_t ids[Size] = {}; ///< number plus one; 0 for a free place
-
-    static std::size_t place(Key key) {
-        return ((key.low ^ (key.high * 0x9e3779b97f4a7c15U)) * 0xd6e8feb86659fd93U) >> shift;
-    }
-    void insert(Key key, std::size_t id) {
-        std::size_t i = place(key);
-        while (ids[i])
-            i = (i + 1) % Size;
-        keys[i] = key;
-        ids[i] = std::uint16_t(id + 1);
-    }
-    int find(std::string_view name) const {
-        if (name.empty() || name.size() > 16) return -1;
-        const Key key = keyOf(name.data(), name.size());
-        for (std::size_t i = place(key); ids[i]; i = (i + 1) % Size)
-            if (keys[i] == key) return ids[i] - 1;
-        return -1;
-    }
-};
-
-KeyTable<512> tagTable;
-KeyTable<512> nameTable;
+int find(const KeyTable<512> &table, std::string_view name) {
+    return name.empty() || name.size() > 16 ? -1 : table.find(keyOf(name.data(), name.size()));
+}
 
 TagRec *registered(std::string_view name) {
     const TagRec *found = knownTag(name);
@@ -284,7 +252,7 @@ TagRec *registered(std::string_view name) {
 void fillTags() {
     for (std::size_t i = 0; i < tagCount; ++i) {
         const std::string_view name = tagNames[i];
-        const Key key = keyOf(name.data(), name.size());
+        const NameKey key = keyOf(name.data(), name.size());
         new (at<TagRec>(tagRef(TagId(i)))) TagRec{{key.low, key.high},
                                                   name.data(),
                                                   name.data(),
@@ -329,7 +297,7 @@ void fillNames() {
         nameTable.insert(keyOf(attributeNames[i].data(), attributeNames[i].size()), i);
     for (std::size_t i = 0; i < std::size(attributeNames); ++i) {
         const std::string_view name = attributeNames[i];
-        const int lower = nameTable.find(lowerFormOf(name));
+        const int lower = find(nameTable, lowerFormOf(name));
         const std::uint32_t flags = (isBooleanAttribute(name) ? NameRec::Boolean : 0U) |
                                     (name.starts_with("data-"sv) && name.size() > 5 ? NameRec::Data : 0U);
         new (at<NameRec>(nameRef(NameId(i))))
@@ -339,13 +307,16 @@ void fillNames() {
 
 } // namespace
 
+KeyTable<512> tagTable;
+KeyTable<512> nameTable;
+
 const TagRec *knownTag(std::string_view name) {
-    const int id = tagTable.find(name);
+    const int id = find(tagTable, name);
     return id < 0 ? nullptr : tagRec(TagId(id));
 }
 
 const NameRec *knownName(std::string_view name) {
-    const int id = nameTable.find(name);
+    const int id = find(nameTable, name);
     return id < 0 ? nullptr : nameRec(NameId(id));
 }
 
@@ -353,7 +324,7 @@ std::uint32_t hashOf(std::string_view text) {
     std::uint64_t hash = text.size() * 0x9e3779b97f4a7c15U;
     const char *p = text.data();
     std::size_t left = text.size();
-    const auto mix = [&hash](Key key) {
+    const auto mix = [&hash](NameKey key) {
         hash = (hash ^ key.low) * 0xd6e8feb86659fd93U;
         hash = (hash ^ (hash >> 32) ^ key.high) * 0xd6e8feb86659fd93U;
         hash ^= hash >> 32;

@@ -6,8 +6,10 @@
 
 #include "space.h"
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string_view>
 
 namespace orl::html::core {
@@ -161,11 +163,62 @@ inline const NameRec *nameRec(NameId id) {
     return at<NameRec>(nameRef(id));
 }
 
+/// The first 16 bytes of a name as two numbers.
+struct NameKey {
+    std::uint64_t low, high;
+    bool operator==(const NameKey &) const = default;
+};
+
+/// Names of at most 16 bytes that are known from the start: an open table of small numbers, half empty at least.
+template<std::size_t Size>
+struct KeyTable {
+    static constexpr unsigned shift = 64 - std::bit_width(Size - 1);
+
+    NameKey keys[Size] = {};
+    std::uint16_t ids[Size] = {}; ///< number plus one; 0 for a free place
+
+    static std::size_t place(NameKey key) {
+        return ((key.low ^ (key.high * 0x9e3779b97f4a7c15U)) * 0xd6e8feb86659fd93U) >> shift;
+    }
+    void insert(NameKey key, std::size_t id) {
+        std::size_t i = place(key);
+        while (ids[i]) i = (i + 1) % Size;
+        keys[i] = key;
+        ids[i] = std::uint16_t(id + 1);
+    }
+    int find(NameKey key) const {
+        for (std::size_t i = place(key); ids[i]; i = (i + 1) % Size)
+            if (keys[i] == key) return ids[i] - 1;
+        return -1;
+    }
+};
+
+extern KeyTable<512> tagTable;
+extern KeyTable<512> nameTable;
+
+/// The key of a name of 1 to 16 bytes behind which 16 more may be read.
+inline NameKey keyOfPadded(const char *name, std::size_t length) {
+    NameKey key;
+    std::memcpy(&key, name, sizeof key);
+    const std::uint64_t all = ~std::uint64_t(0);
+    if (length > 8) return {key.low, key.high & (all >> (8 * (16 - length)))};
+    return {key.low & (all >> (8 * (8 - length))), 0};
+}
+
 /// The record of an exact, lower-case tag name; null if it is none of the list above. The space must be open.
 const TagRec *knownTag(std::string_view name);
+/// The same for a name of 1 to 16 bytes behind which 16 more may be read.
+inline const TagRec *knownTagPadded(const char *name, std::size_t length) {
+    const int id = tagTable.find(keyOfPadded(name, length));
+    return id < 0 ? nullptr : tagRec(TagId(id));
+}
 
 /// The record of an exact attribute name; null if the page has to bring its own.
 const NameRec *knownName(std::string_view name);
+inline const NameRec *knownNamePadded(const char *name, std::size_t length) {
+    const int id = nameTable.find(keyOfPadded(name, length));
+    return id < 0 ? nullptr : nameRec(NameId(id));
+}
 
 std::uint32_t hashOf(std::string_view text);
 

@@ -38,6 +38,9 @@ inline Vector equal(Vector v, char c) {
 inline Vector atMost(Vector v, unsigned char c) {
     return _mm_cmpeq_epi8(_mm_min_epu8(v, _mm_set1_epi8(char(c))), v);
 }
+inline Vector minus(Vector v, unsigned char c) {
+    return _mm_sub_epi8(v, _mm_set1_epi8(char(c)));
+}
 inline Vector either(Vector a, Vector b) {
     return _mm_or_si128(a, b);
 }
@@ -62,6 +65,9 @@ inline Vector equal(Vector v, char c) {
 }
 inline Vector atMost(Vector v, unsigned char c) {
     return vcleq_u8(v, vdupq_n_u8(c));
+}
+inline Vector minus(Vector v, unsigned char c) {
+    return vsubq_u8(v, vdupq_n_u8(c));
 }
 inline Vector either(Vector a, Vector b) {
     return vorrq_u8(a, b);
@@ -121,6 +127,49 @@ inline const char *toEscape(const char *p, const char *end) {
         ++p;
     return p;
 }
+
+/// The start of a tag or of an attribute: how long the name is, and whether it is all lower-case ASCII. Names of 16
+/// bytes and more are not measured: their length is 16, and they are not plain.
+struct Name {
+    std::size_t length;
+    bool plain;
+};
+
+#ifdef ORL_SCAN_VECTORS
+
+template<bool Attribute>
+inline Name name(const char *p) {
+    const Vector v = load(p);
+    Vector end = either(atMost(v, ' '), equal(v, '/'));
+    if constexpr (Attribute)
+        end = either(either(end, atMost(minus(v, '<'), '>' - '<')), either(equal(v, '"'), equal(v, '\'')));
+    else
+        end = either(end, equal(v, '>'));
+    const std::uint64_t ends = mask(end);
+    if (!ends) return {16, false};
+    const Vector odd = either(atMost(minus(v, 'A'), 'Z' - 'A'), atMost(minus(v, 0x80), 0x7f));
+    const std::uint64_t before = (ends & -ends) - 1;
+    return {std::size_t(std::countr_zero(ends)) / bitsPerByte, !(mask(odd) & before)};
+}
+
+#else
+
+template<bool Attribute>
+inline Name name(const char *p) {
+    const auto isEnd = [](unsigned char c) {
+        const bool more = Attribute ? (c >= '<' && c <= '>') || c == '"' || c == '\'' : c == '>';
+        return c <= ' ' || c == '/' || more;
+    };
+    Name found{0, true};
+    for (; found.length < 16; ++found.length) {
+        const auto c = static_cast<unsigned char>(p[found.length]);
+        if (isEnd(c)) return found;
+        if (c >= 0x80 || (c >= 'A' && c <= 'Z')) found.plain = false;
+    }
+    return {16, false};
+}
+
+#endif
 
 /// The length of the leading part of `text` that is plain ASCII, rounded down to whole vectors.
 inline std::size_t asciiPrefix(std::string_view text) {

@@ -138,10 +138,9 @@ void Run::build() {
     present_ = built_ = true;
 }
 
-void Run::append(std::string_view piece) {
-    if (!present_ || (!built_ && view_.empty())) {
+void Run::appendApart(std::string_view piece) {
+    if (!built_ && view_.empty()) {
         view_ = piece;
-        present_ = true;
     } else if (!built_ && view_.data() + view_.size() == piece.data()) {
         view_ = {view_.data(), view_.size() + piece.size()};
     } else {
@@ -153,12 +152,6 @@ void Run::append(std::string_view piece) {
 void Run::append(char32_t scalar) {
     build();
     appendScalar(builder_, scalar);
-}
-
-std::string_view Run::take(Arena &arena) {
-    const std::string_view text = built_ ? arena.store(builder_) : view_;
-    clear();
-    return text;
 }
 
 bool SearchAhead::succeeds(const CharacterReader &reader) {
@@ -182,8 +175,12 @@ Token &Tokeniser::read() {
         error("Self closing flag not acknowledged");
         selfClosingFlagAcknowledged_ = true;
     }
-    while (!isEmitPending_)
-        step();
+    while (!isEmitPending_) {
+        if (state_ == State::Data) [[likely]]
+            data();
+        else
+            step();
+    }
     if (chars_.isPresent()) {
         charPending_.data = chars_.take(arena_);
         charPending_.hasNul = charsHaveNul_;
@@ -200,18 +197,24 @@ Token &Tokeniser::read() {
 void Tokeniser::emit(Token &token) {
     if (isEmitPending_)
         throw Exception::Error(ExceptionType::IllegalArgumentException, "There is an unread token pending!");
+    if (token.isStartTag()) return hand(token.asStartTag());
+    if (token.isEndTag()) return hand(token.asEndTag());
     emitPending_ = &token;
     isEmitPending_ = true;
-    if (token.isStartTag()) {
-        lastStartTag_ = token.asStartTag().normalName;
-        if (token.asStartTag().selfClosing) selfClosingFlagAcknowledged_ = false;
-    } else if (token.isEndTag() && !token.asEndTag().attributes.empty()) {
-        error("Attributes incorrectly present on end tag");
-    }
 }
 
-void Tokeniser::emit(std::string_view text) {
-    if (!text.empty()) chars_.append(text);
+inline void Tokeniser::hand(Token::StartTag &tag) {
+    emitPending_ = &tag;
+    isEmitPending_ = true;
+    lastStartTag_ = tag.normalName;
+    if (tag.selfClosing) selfClosingFlagAcknowledged_ = false;
+}
+
+inline void Tokeniser::hand(Token::EndTag &tag) {
+    emitPending_ = &tag;
+    isEmitPending_ = true;
+    if (!tag.attributes.empty()) [[unlikely]]
+        error("Attributes incorrectly present on end tag");
 }
 
 void Tokeniser::emit(char32_t scalar) {
@@ -261,23 +264,34 @@ void Tokeniser::eofErrorTo(State state) {
 // ---- Tags
 // --------------------------------------------------------------------------------------------------------
 
+template<class Tag>
+inline void Tokeniser::begin(Tag &tag) {
+    tagPending_ = &tag;
+    tag.selfClosing = false;
+    tag.attributes.clear();
+    writtenNames_.clear();
+    if (!attributePlaces_.empty()) [[unlikely]]
+        attributePlaces_.clear();
+}
+
 void Tokeniser::createTagPending(bool start) {
-    tagPending_ = start ? static_cast<Token::Tag *>(&startPending_) : &endPending_;
-    tagPending_->reset();
+    if (start)
+        begin(startPending_);
+    else
+        begin(endPending_);
+    tagPending_->tagName = tagPending_->normalName = {};
+    tagPending_->known = nullptr;
     pendingTagName_.clear();
     pendingAttributeName_.clear();
     pendingAttributeValue_.clear();
     hasEmptyAttributeValue_ = false;
-    writtenNames_.clear();
-    attributePlaces_.clear();
 }
 
-/// `plain` names are known to be lower-case ASCII.
-void Tokeniser::setTagName(std::string_view name, bool plain) {
+void Tokeniser::setTagName(std::string_view name) {
     Token::Tag &tag = *tagPending_;
-    if (!plain && hasEdgeToTrim(name)) name = trimmed(name);
+    if (hasEdgeToTrim(name)) name = trimmed(name);
     tag.tagName = name;
-    if (plain || isLowerAscii(name)) {
+    if (isLowerAscii(name)) {
         tag.normalName = name;
         tag.known = knownTag(name);
         return;
@@ -288,7 +302,7 @@ void Tokeniser::setTagName(std::string_view name, bool plain) {
 }
 
 void Tokeniser::finishTagName() {
-    if (pendingTagName_.isPresent()) setTagName(pendingTagName_.take(arena_), false);
+    if (pendingTagName_.isPresent()) setTagName(pendingTagName_.take(arena_));
 }
 
 void Tokeniser::emitTagPending() {
@@ -323,12 +337,22 @@ Ref Tokeniser::nameOf(std::string_view written) {
     return arena_.internName(lowerCase(written));
 }
 
+/// A name in the page that is all lower-case ASCII.
+inline Ref Tokeniser::nameOfPlain(std::string_view written) {
+    if (written.size() <= 16) {
+        if (const NameRec *known = knownNamePadded(written.data(), written.size())) return refOf(known);
+    }
+    return arena_.internName(written);
+}
+
 /// A name that is written the same way a second time changes the value of the first, which keeps its place.
-void Tokeniser::putAttribute(std::string_view written, Ref name, const char *value, std::size_t length) {
+inline void Tokeniser::putAttribute(std::string_view written, Ref name, const char *value,
+                                    std::size_t length) {
     auto &attributes = tagPending_->attributes;
     const AttrRec attribute{name, std::uint32_t(length), value};
-    if (const auto place = placeOf(written, name)) {
-        attributes[*place] = attribute;
+    const std::size_t place = placeOf(written, name);
+    if (place < attributes.size()) [[unlikely]] {
+        attributes[place] = attribute;
         return;
     }
     attributes.push_back(attribute);
@@ -336,20 +360,22 @@ void Tokeniser::putAttribute(std::string_view written, Ref name, const char *val
     if (attributes.size() > fewAttributes) hashAttribute(attributes.size() - 1);
 }
 
-std::optional<std::size_t> Tokeniser::placeOf(std::string_view written, Ref name) {
+/// Where the pending tag has the attribute that is written so; the number of its attributes if it has not.
+inline std::size_t Tokeniser::placeOf(std::string_view written, Ref name) const {
     const auto &attributes = tagPending_->attributes;
     const auto isAt = [&](std::size_t i) {
         return attributes[i].name == name && writtenNames_[i] == written;
     };
-    if (attributePlaces_.empty()) {
-        for (std::size_t i = 0; i < attributes.size(); ++i)
-            if (isAt(i)) return i;
-        return {};
+    if (attributes.size() <= fewAttributes) {
+        std::size_t i = 0;
+        while (i < attributes.size() && !isAt(i))
+            ++i;
+        return i;
     }
     const std::size_t mask = attributePlaces_.size() - 1;
     for (std::size_t slot = hashOf(written) & mask; attributePlaces_[slot]; slot = (slot + 1) & mask)
         if (isAt(attributePlaces_[slot] - 1)) return attributePlaces_[slot] - 1;
-    return {};
+    return attributes.size();
 }
 
 /// Enters one more attribute into the table, which is kept at most half full.
@@ -365,24 +391,78 @@ void Tokeniser::hashAttribute(std::size_t place) {
     }
 }
 
-/// Reads a tag in one go from the first letter of its name, or up to an attribute that the states have to
-/// look at. False, with nothing done, if they have to look at the name.
-bool Tokeniser::readTag(const char *name, bool start) {
-    const char *p = name;
-    unsigned seen = 0;
-    char high = 0;
-    for (; !isClass(*p, TagNameEnd); ++p) {
-        seen |= byteClasses[static_cast<unsigned char>(*p)];
-        high = char(high | *p);
+/// A quoted value with its references resolved, as the arena keeps it; the text itself where none is.
+std::string_view Tokeniser::resolved(std::string_view value) {
+    const char *const end = value.data() + value.size();
+    const char quote = *end;
+    bool changed = false;
+    scratch_.clear();
+    reader_.moveTo(value.data());
+    while (reader_.at() != end) {
+        const void *const found = std::memchr(reader_.at(), '&', std::size_t(end - reader_.at()));
+        scratch_.append(reader_.consumeUpTo(found ? static_cast<const char *>(found) : end));
+        if (!found) break;
+        reader_.advance();
+        const auto reference = consumeCharacterReference(reader_, errors_, char32_t(quote), true);
+        for (std::size_t i = 0; i < reference.count; ++i)
+            appendScalar(scratch_, reference.scalars[i]);
+        if (reference)
+            changed = true;
+        else
+            scratch_.push_back('&');
     }
-    if (*p == '\0') return false;
-    createTagPending(start);
-    const bool plain = !(seen & UpperByte) && !(high & highBit) && static_cast<unsigned char>(p[-1]) > ' ';
-    setTagName({name, std::size_t(p - name)}, plain);
-    reader_.moveTo(p);
-    state_ = State::BeforeAttributeName;
-    readAttributes();
-    return true;
+    return changed ? arena_.store(scratch_) : value;
+}
+
+/// A value that holds nothing wrong and is followed by what may follow it; null for any other.
+inline const char *Tokeniser::readValue(const char *p, std::string_view &value) {
+    const char quote = *p;
+    if (quote == '"' || quote == '\'') {
+        const char *const start = p + 1;
+        p = quote == '"' ? scan::to<'"', '&'>(start) : scan::to<'\'', '&'>(start);
+        const bool referenced = *p == '&';
+        if (referenced) p = quote == '"' ? scan::to<'"'>(p) : scan::to<'\''>(p);
+        if (*p != quote || !(isWhite(p[1]) || p[1] == '>' || p[1] == '/')) return nullptr;
+        value = {start, std::size_t(p - start)};
+        if (referenced) value = resolved(value);
+        return p + 1;
+    }
+    const char *const start = p;
+    while (!isClass(*p, UnquotedEnd))
+        ++p;
+    value = {start, std::size_t(p - start)};
+    return p > start && (isWhite(*p) || *p == '>') ? p : nullptr;
+}
+
+/// Reads the attribute at `p` and gives the place behind it; null if it is not plain.
+inline const char *Tokeniser::readAttribute(const char *p) {
+    const scan::Name scanned = scan::name<true>(p);
+    const char *const name = p;
+    p += scanned.length;
+    bool plain = scanned.plain;
+    if (scanned.length == 16) {
+        while (!isClass(*p, AttributeNameEnd))
+            ++p;
+        const std::string_view all(name, std::size_t(p - name));
+        plain = isLowerAscii(all) && !hasEdgeToTrim(all);
+    }
+    const std::string_view written(name, std::size_t(p - name));
+    if (written.empty() || !isClass(*p, AttributeNameEnd) || (!plain && hasEdgeToTrim(written)))
+        return nullptr;
+
+    std::string_view value;
+    if (*p == '=') [[likely]] {
+        p = readValue(p + 1, value);
+        if (!p) return nullptr;
+    } else if (isWhite(*p)) {
+        while (isWhite(*p))
+            ++p;
+        if (*p == '=') return nullptr;
+    } else if (*p != '>' && *p != '/') {
+        return nullptr;
+    }
+    putAttribute(written, plain ? nameOfPlain(written) : nameOf(written), value.data(), value.size());
+    return p;
 }
 
 /// Reads whole attributes and the end of the tag; false, at the start of an attribute, where the states have
@@ -397,7 +477,10 @@ bool Tokeniser::readAttributes() {
             if (selfClosing) tagPending_->selfClosing = true;
             reader_.moveTo(p + 1 + selfClosing);
             state_ = State::Data;
-            emit(*tagPending_);
+            if (tagPending_ == &startPending_)
+                hand(startPending_);
+            else
+                hand(endPending_);
             return true;
         }
         const char *const next = readAttribute(p);
@@ -408,52 +491,54 @@ bool Tokeniser::readAttributes() {
     return false;
 }
 
-/// Reads the attribute at `p` and gives the place behind it; null if it is not plain.
-const char *Tokeniser::readAttribute(const char *p) {
-    const char *const name = p;
-    unsigned char low = 0xff, high = 0;
-    unsigned seen = 0;
-    for (; !isClass(*p, AttributeNameEnd); ++p) {
-        const auto c = static_cast<unsigned char>(*p);
-        seen |= byteClasses[c];
-        low = std::min(low, c);
-        high |= c;
+/// Reads a tag in one go from the first letter of its name, or up to an attribute that the states have to
+/// look at. False, with nothing done, if they have to look at the name.
+template<class Tag>
+inline bool Tokeniser::readTag(Tag &tag, const char *name) {
+    const scan::Name scanned = scan::name<false>(name);
+    const char *const end = name + scanned.length;
+    if (scanned.length == 16 || !isClass(*end, TagNameEnd) || *end == '\0') return false;
+    begin(tag);
+    if (scanned.plain) [[likely]] {
+        tag.normalName = std::string_view(name, scanned.length);
+        tag.tagName =
+            std::string_view(name, scanned.length); // a copy of the other would wait for its two halves
+        tag.known = knownTagPadded(name, scanned.length);
+    } else {
+        setTagName({name, scanned.length});
     }
-    if (p == name || low <= ' ' || high >= highBit) return nullptr;
-    const std::string_view written(name, std::size_t(p - name));
-    std::string_view value;
-    const bool hasValue = *p == '=';
-    if (hasValue) {
-        p = readValue(p + 1, value);
-        if (!p) return nullptr;
-    } else if (isWhite(*p)) {
-        while (isWhite(*p))
-            ++p;
-        if (*p == '=') return nullptr;
-    } else if (*p != '>' && *p != '/') {
-        return nullptr;
+    if (*end == '>') {
+        reader_.moveTo(end + 1);
+        hand(tag);
+        return true;
     }
-    const bool lower = !(seen & UpperByte) || settings_.preserveAttributeCase();
-    putAttribute(written, lower ? arena_.internName(written) : nameOf(written), value.data(), value.size());
-    return p;
+    reader_.moveTo(end);
+    state_ = State::BeforeAttributeName;
+    readAttributes();
+    return true;
 }
 
-/// A value that holds no reference and nothing wrong, and is followed by what may follow it.
-const char *Tokeniser::readValue(const char *p, std::string_view &value) const {
-    const char quote = *p;
-    if (quote == '"' || quote == '\'') {
-        const char *const start = p + 1;
-        p = quote == '"' ? scan::to<'"', '&'>(start) : scan::to<'\'', '&'>(start);
-        if (*p != quote) return nullptr;
-        value = {start, std::size_t(p - start)};
-        ++p;
-        return isWhite(*p) || *p == '>' || *p == '/' ? p : nullptr;
+/// Text, and the tag behind it if that is as plain as most are.
+void Tokeniser::data() {
+    const char *const start = reader_.at();
+    if (*start == '\xef' && reader_.current() == CharacterReader::endOfInput) [[unlikely]]
+        return emit(eofPending_);
+    emit(reader_.consumeData());
+    const char *const here = reader_.at();
+    if (*here == '<') [[likely]] {
+        if (here[1] == '/') {
+            if (isClass(here[2], LetterByte) && readTag(endPending_, here + 2)) return;
+        } else if (isClass(here[1], LetterByte) && readTag(startPending_, here + 1)) {
+            return;
+        }
+        return advanceTransition(State::TagOpen);
     }
-    const char *const start = p;
-    while (!isClass(*p, UnquotedEnd))
-        ++p;
-    value = {start, std::size_t(p - start)};
-    return p > start && (isWhite(*p) || *p == '>') ? p : nullptr;
+    if (*here == '&') {
+        reader_.moveTo(here + 1);
+        return characterReferenceIn(State::Data);
+    }
+    if (!reader_.isEmpty()) return emitNul();
+    if (here == start) emit(eofPending_);
 }
 
 /// Whether an end tag of that name, all in lower case or all in upper case, still comes.

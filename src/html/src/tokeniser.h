@@ -106,11 +106,27 @@ public:
 
 private:
     void build();
+    void appendApart(std::string_view piece);
 
     std::string_view view_;
     std::string builder_;
     bool present_ = false, built_ = false;
 };
+
+inline void Run::append(std::string_view piece) {
+    if (!present_) [[likely]] {
+        view_ = piece;
+        present_ = true;
+    } else {
+        appendApart(piece);
+    }
+}
+
+inline std::string_view Run::take(Arena &arena) {
+    const std::string_view text = built_ ? arena.store(builder_) : view_;
+    clear();
+    return text;
+}
 
 /// A search that is made again and again from places further on costs one pass over the page in all.
 class SearchAhead {
@@ -155,10 +171,13 @@ private:
     struct Family;
 
     // Output.
-    void emit(std::string_view text);
+    void emit(std::string_view text) {
+        if (!text.empty()) chars_.append(text);
+    }
     void emit(char32_t scalar);
     void emit(const CharacterReference &reference);
     void emitReplacement();
+    void emitNul();
     /// Emits the last `count` bytes before the current place, which are ASCII.
     void emitLast(std::size_t count) { emit(std::string_view(reader_.at() - count, count)); }
     void advanceTransition(State state);
@@ -168,18 +187,25 @@ private:
 
     // Tags and attributes.
     void createTagPending(bool start);
-    void setTagName(std::string_view name, bool plain);
+    void setTagName(std::string_view name);
     void finishTagName();
     void emitTagPending();
     void newAttribute();
     void putAttribute(std::string_view written, Ref name, const char *value, std::size_t length);
     Ref nameOf(std::string_view written);
-    std::optional<std::size_t> placeOf(std::string_view written, Ref name);
+    Ref nameOfPlain(std::string_view written);
+    std::size_t placeOf(std::string_view written, Ref name) const;
     void hashAttribute(std::size_t place);
-    bool readTag(const char *name, bool start);
+    template<class Tag>
+    bool readTag(Tag &tag, const char *name);
+    template<class Tag>
+    void begin(Tag &tag);
+    void hand(Token::StartTag &tag);
+    void hand(Token::EndTag &tag);
     bool readAttributes();
     const char *readAttribute(const char *p);
-    const char *readValue(const char *p, std::string_view &value) const;
+    const char *readValue(const char *p, std::string_view &value);
+    std::string_view resolved(std::string_view value);
     void valueRun(const char *stop);
     void referenceInValue(char additionalAllowed);
     bool closesLater(std::string_view name);
@@ -264,6 +290,7 @@ private:
     Run pendingAttributeName_;
     Run pendingAttributeValue_;
     Run pendingComment_;
+    std::string scratch_;
 
     Token::StartTag startPending_;
     Token::EndTag endPending_;

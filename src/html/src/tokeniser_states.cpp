@@ -113,26 +113,12 @@ void Tokeniser::step() {
 // ---- Text
 // --------------------------------------------------------------------------------------------------------
 
-void Tokeniser::data() {
-    if (reader_.current() == eof) [[unlikely]]
-        return emit(eofPending_);
-    emit(reader_.consumeData());
-    if (reader_.isEmpty()) return;
-    const char *const here = reader_.at();
-    switch (*here) {
-    case '<': {
-        const bool start = here[1] != '/';
-        const char *const name = here + 1 + !start;
-        if (isClass(*name, LetterByte) && readTag(name, start)) return;
-        return advanceTransition(State::TagOpen);
-    }
-    case '&': return advanceTransition(State::CharacterReferenceInData);
-    default: // NUL
-        error();
-        reader_.advance();
-        charsHaveNul_ = true;
-        return emitLast(1);
-    }
+/// NUL stays in the text; what becomes of it depends on where the text goes.
+void Tokeniser::emitNul() {
+    error();
+    reader_.advance();
+    charsHaveNul_ = true;
+    emitLast(1);
 }
 
 void Tokeniser::characterReferenceIn(State data) {
@@ -222,7 +208,7 @@ void Tokeniser::rcdataLessthanSign() {
     }
     if (reader_.matchesLetter() && !lastStartTag_.empty() && !closesLater(lastStartTag_)) {
         createTagPending(false);
-        setTagName(lastStartTag_, false);
+        setTagName(lastStartTag_);
         emitTagPending();
         reader_.unconsume();
         return transition(State::Data);

@@ -61,7 +61,8 @@ protected:
     virtual void initialiseParse(Arena &arena, std::string_view input, std::string_view baseUri,
                                  ParseErrorList &errors, const ParseSettings &settings);
     virtual bool process(Token &token) = 0;
-    void runParser();
+    /// Reads tokens and processes them, the one that ends the page included.
+    virtual void runParser();
     /// Nothing of the parse is looked at any more; the tree stays.
     virtual void endParse();
 
