@@ -41,7 +41,7 @@ void placeAll(NodeRec *parent, NodeRec *reference, std::string_view html) {
     Arena &arena = arenaOf(parent);
     ++arena.version;
     for (NodeRec *node : parseFragmentInto(arena, html, parent))
-        place(parent, reference, node);
+        placeUnchecked(parent, reference, node);
 }
 
 } // namespace

@@ -209,7 +209,7 @@ const Node &Node::before(const Node &node) const {
 const Node &Node::before(std::string_view html) const {
     NodeRec *above = requiredParent(record_);
     for (NodeRec *node : parseInside(above, html))
-        place(above, record_, node);
+        placeUnchecked(above, record_, node);
     return *this;
 }
 
@@ -223,7 +223,7 @@ const Node &Node::after(std::string_view html) const {
     NodeRec *above = requiredParent(record_);
     NodeRec *reference = core::nextSibling(record_);
     for (NodeRec *node : parseInside(above, html))
-        place(above, reference, node);
+        placeUnchecked(above, reference, node);
     return *this;
 }
 
@@ -240,10 +240,10 @@ Node Node::wrap(std::string_view html) const {
     NodeRec *innermost = wrapper;
     while (NodeRec *inner = firstElement(innermost))
         innermost = inner;
-    place(above, record_, wrapper);
-    place(innermost, nullptr, record_);
+    placeUnchecked(above, record_, wrapper);
+    placeUnchecked(innermost, nullptr, record_);
     for (std::size_t i = 1; i < nodes.size(); ++i)
-        place(wrapper, nullptr, nodes[i]);
+        placeUnchecked(wrapper, nullptr, nodes[i]);
     return Node(wrapper);
 }
 
@@ -251,7 +251,7 @@ Node Node::unwrap() const {
     NodeRec *above = requiredParent(record_);
     Node first(core::firstChild(record_));
     while (NodeRec *child = core::firstChild(record_))
-        place(above, record_, child);
+        placeUnchecked(above, record_, child);
     remove();
     return first;
 }

@@ -32,8 +32,11 @@ constexpr unsigned bitsPerByte = 1;
 inline Vector load(const char *p) {
     return _mm_loadu_si128(reinterpret_cast<const __m128i *>(p));
 }
+inline Vector equal(Vector a, Vector b) {
+    return _mm_cmpeq_epi8(a, b);
+}
 inline Vector equal(Vector v, char c) {
-    return _mm_cmpeq_epi8(v, _mm_set1_epi8(c));
+    return equal(v, _mm_set1_epi8(c));
 }
 inline Vector atMost(Vector v, unsigned char c) {
     return _mm_cmpeq_epi8(_mm_min_epu8(v, _mm_set1_epi8(char(c))), v);
@@ -59,6 +62,9 @@ constexpr unsigned bitsPerByte = 4;
 
 inline Vector load(const char *p) {
     return vld1q_u8(reinterpret_cast<const std::uint8_t *>(p));
+}
+inline Vector equal(Vector a, Vector b) {
+    return vceqq_u8(a, b);
 }
 inline Vector equal(Vector v, char c) {
     return vceqq_u8(v, vdupq_n_u8(std::uint8_t(c)));

@@ -19,8 +19,10 @@ namespace {
 Elements asElements(const Found &found) {
     std::vector<Element> all;
     all.reserve(found.size());
-    for (NodeRec *node : found)
-        all.emplace_back(node);
+    for (NodeRec *node : found) {
+        hold(node);
+        all.emplace_back(node, Node::Held());
+    }
     return all;
 }
 

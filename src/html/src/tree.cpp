@@ -127,13 +127,6 @@ std::size_t elementIndex(NodeRec *element) {
     return childIndex(parent(element)).elementPlaces[siblingIndex(element)];
 }
 
-std::size_t childElementCount(const NodeRec *parent) {
-    std::size_t count = 0;
-    for (const NodeRec *child = firstElement(parent); child; child = nextElement(child))
-        ++count;
-    return count;
-}
-
 NodeRec *nextElement(const NodeRec *node) {
     NodeRec *sibling = nextSibling(node);
     while (sibling && !isElement(sibling))

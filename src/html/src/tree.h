@@ -37,7 +37,6 @@ NodeRec *childElementAt(NodeRec *parent, std::size_t index);
 /// The place among the parent's child elements; 0 for a node in no list. Constant cost while the siblings
 /// stay.
 std::size_t elementIndex(NodeRec *element);
-std::size_t childElementCount(const NodeRec *parent);
 
 NodeRec *nextElement(const NodeRec *node);
 NodeRec *previousElement(const NodeRec *node);

@@ -12,6 +12,9 @@
 // with each other may be used by different threads at once, and a tree may be handed from one thread to
 // another.
 //
+// Memory. Nodes that go while others of their tree are held make room for new ones; texts and attributes that
+// are replaced, or go with their nodes, give their bytes back only when the whole tree goes.
+//
 // Depth. No operation recurses over the depth of a tree; costs are linear in the size of what is visited
 // unless an operation says otherwise. Links to parents and siblings are followed in constant time.
 //
@@ -130,8 +133,9 @@ public:
     /// they are, or change at their ends only.
     std::size_t siblingIndex() const;
 
-    // ---- Surgery. A node that is put somewhere leaves its present parent first. Putting a node below itself
-    // fails with "Must be false".
+    // ---- Surgery. A node that is put somewhere leaves its present parent first; constant cost, except that
+    // a node with children is checked against all that is above its new place if that is of the same tree.
+    // Putting a node below itself fails with "Must be false".
 
     /// Leaves the parent, if there is one.
     void remove() const;
@@ -186,6 +190,9 @@ public:
     explicit Node(core::NodeRec *record) : record_(record) {
         if (record) hold(record);
     }
+    /// Takes over a holder that the node was given already.
+    struct Held {};
+    Node(core::NodeRec *record, Held) : record_(record) {}
     core::NodeRec *record() const { return record_; }
     static bool isKindOf(const core::NodeRec *) { return true; }
 
