@@ -3,7 +3,7 @@
 #include "html_tree_builder.h"
 
 #include <algorithm>
-#include <array>
+#include <iterator>
 
 namespace orl::html {
 
@@ -125,14 +125,18 @@ struct Meaning {
     BodyEnd end = BodyEnd::AnyOther;
 };
 
-constexpr std::array<Meaning, tagCount> meanings = [] {
-    std::array<Meaning, tagCount> made{};
+// One constant a name, as compilers bound what they compute for one.
 #define ORL_HTML_TAG_MEANING(id, name)                                                                       \
-    made[unsigned(TagId::id)] = {startOf(TagId::id, tagSets(name)), endOf(TagId::id, tagSets(name))};
-    ORL_HTML_TAGS(ORL_HTML_TAG_MEANING)
+    constexpr Meaning meaningOf##id{startOf(TagId::id, tagSets(name)), endOf(TagId::id, tagSets(name))};
+ORL_HTML_TAGS(ORL_HTML_TAG_MEANING)
 #undef ORL_HTML_TAG_MEANING
-    return made;
-}();
+
+/// By TagId.
+constexpr Meaning meanings[tagCount] = {{},
+#define ORL_HTML_TAG_MEANING(id, name) meaningOf##id,
+                                        ORL_HTML_TAGS(ORL_HTML_TAG_MEANING)
+#undef ORL_HTML_TAG_MEANING
+};
 
 /// End tags that, when they name the current element, do no more than to close it.
 constexpr bool closesSimply(BodyEnd end) {
@@ -537,7 +541,8 @@ bool HtmlTreeBuilder::endItem(End &tag, bool inItsScope) {
 }
 
 bool HtmlTreeBuilder::endHeading(End &tag) {
-    if (!inScope({TagId::H1, TagId::H2, TagId::H3, TagId::H4, TagId::H5, TagId::H6})) return error(State::InBody);
+    if (!inScope({TagId::H1, TagId::H2, TagId::H3, TagId::H4, TagId::H5, TagId::H6}))
+        return error(State::InBody);
     generateImpliedEndTags(tag.id());
     if (!currentIs(tag.id())) error(State::InBody);
     popStackToClose(TagSet::Headings);
