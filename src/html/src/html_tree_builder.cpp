@@ -400,15 +400,15 @@ NodeRec *HtmlTreeBuilder::cloneOf(NodeRec *element) {
 /// From the newest one that is open, or from the last marker, to the end of the list.
 void HtmlTreeBuilder::reopenFormattingElements() {
     Formatting *entry = formatting_.newest();
-    while (entry->older && !isMarkerOrOpen(entry->older)) entry = entry->older;
+    while (entry->older && !isMarkerOrOpen(entry->older))
+        entry = entry->older;
     for (; entry; entry = entry->newer) {
         if (clonesLeft_ == 0) return formatting_.clear();
         --clonesLeft_;
         NodeRec *const clone = cloneOf(entry->node);
         insertNode(clone);
         open_.push(clone, tagRec(entry->id));
-        entry->node = clone;
-        entry->place = open_.size();
+        formatting_.reopen(entry, clone, open_.size());
     }
 }
 
