@@ -64,6 +64,13 @@ public:
     /// Out of their tree; they stay in the list.
     const Elements &remove() const;
 
+    /// What the selector matches from each entry as root, each element once.
+    Elements select(std::string_view query) const;
+    /// The entries that select(query) does not find. `not` itself is a word of the language.
+    Elements not_(std::string_view query) const;
+    /// Whether any entry is(query).
+    bool is(std::string_view query) const;
+
     /// A list of the entry at this place, empty if there is none.
     Elements eq(std::size_t index) const;
     /// All parents of all entries, each once, first seen first.
