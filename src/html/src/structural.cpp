@@ -60,21 +60,20 @@ public:
         : Predicate({.growing = inner->traits.growing}), inner_(std::move(inner)), scope_(scope) {}
 
     bool holds(NodeRec *element) override {
-        if (element == scope_.root) return false;
-        NodeRec *const nearest = parentOf(element);
-        NodeRec *above = nearest;
-        bool answer = false;
-        while (above && !answers_.isKnown(above)) {
-            if (inner_->holds(above)) {
-                answers_.set(above, true);
-                break;
-            }
-            above = above == scope_.root ? nullptr : parentOf(above);
-        }
-        if (above) answer = answers_.get(above);
-        for (NodeRec *passed = nearest; passed != above; passed = parentOf(passed)) {
+        NodeRec *const nearest = next(element);
+        if (!nearest) return false;
+        // Most often the parent decides.
+        const bool cheap = inner_->traits.cheap;
+        if (cheap && inner_->holds(nearest)) return true;
+        if (answers_.isKnown(nearest)) return answers_.get(nearest);
+        NodeRec *above = cheap ? next(nearest) : nearest;
+        while (above && !answers_.isKnown(above) && !inner_->holds(above))
+            above = next(above);
+        const bool answer = above && (!answers_.isKnown(above) || answers_.get(above));
+        for (NodeRec *passed = nearest; passed; passed = next(passed)) {
+            if (answers_.isKnown(passed)) break;
             answers_.set(passed, answer);
-            if (passed == scope_.root) break;
+            if (passed == above) break;
         }
         return answer;
     }
@@ -84,6 +83,8 @@ public:
     }
 
 private:
+    NodeRec *next(NodeRec *element) const { return element == scope_.root ? nullptr : parentOf(element); }
+
     PredicatePtr inner_;
     Scope &scope_;
     NodeAnswers answers_;
