@@ -2,6 +2,7 @@
 #pragma once
 
 #include <orl/html/attributes.h>
+#include <orl/html/cleaner.h>
 #include <orl/html/css_selector.h>
 #include <orl/html/data_util.h>
 #include <orl/html/document.h>
@@ -23,3 +24,4 @@
 #include <orl/html/string_util.h>
 #include <orl/html/tag.h>
 #include <orl/html/text_encoding.h>
+#include <orl/html/whitelist.h>
