@@ -2,29 +2,25 @@
 // a time, with nothing kept and nothing shared. Searches are checked against it.
 #pragma once
 
+#include "utf8.h"
+
 #include <orl/html/css_selector.h>
 #include <orl/html/elements.h>
 #include <orl/html/evaluator.h>
 
 #include <algorithm>
-#include <cctype>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace orl::html::naive {
 
-inline std::string lower(std::string text) {
-    for (char &c : text)
-        if (c >= 'A' && c <= 'Z') c = char(c + 32);
-    return text;
+inline std::string lower(const std::string &text) {
+    return core::lowerCase(text);
 }
 
 inline std::string trim(const std::string &text) {
-    const auto isSpace = [](char c) { return std::isspace(static_cast<unsigned char>(c)); };
-    const auto first = std::find_if_not(text.begin(), text.end(), isSpace);
-    const auto last = std::find_if_not(text.rbegin(), std::make_reverse_iterator(first), isSpace).base();
-    return std::string(first, last);
+    return std::string(core::trimmed(text));
 }
 
 inline bool hasParentElement(const Element &element) {
@@ -166,7 +162,7 @@ inline bool matches(const Evaluator &evaluator, const Element &root, const Eleme
 
     ORL_IF(text, E::ContainsText) return lower(element.text()).find(text->searchText()) != std::string::npos;
     ORL_IF(own, E::ContainsOwnText)
-        return lower(element.ownText()).find(own->searchText()) != std::string::npos;
+    return lower(element.ownText()).find(own->searchText()) != std::string::npos;
     ORL_IF(regex, E::Matches) return regex->pattern().matcher(element.text()).find();
     ORL_IF(ownRegex, E::MatchesOwn) return ownRegex->pattern().matcher(element.ownText()).find();
 #undef ORL_IF

@@ -12,6 +12,8 @@
 namespace orl::html {
 
 struct Pattern::Compiled {
+    explicit Compiled(std::unique_ptr<const icu::RegexPattern> pattern) : regex(std::move(pattern)) {}
+
     std::unique_ptr<const icu::RegexPattern> regex;
 };
 
