@@ -1,6 +1,7 @@
 #pragma once
 
 #include <orl/html/document.h>
+#include <orl/html/export.h>
 #include <orl/html/output_settings.h>
 #include <orl/html/whitelist.h>
 
@@ -13,7 +14,7 @@ namespace orl::html {
 /// Makes trees that hold nothing but what a whitelist allows, by building them anew. Elements that are not
 /// allowed leave their children behind in the nearest element that is; scripts, styles and comments leave
 /// nothing.
-class Cleaner {
+class ORL_HTML_API Cleaner {
 public:
     explicit Cleaner(Whitelist whitelist) : whitelist_(std::move(whitelist)) {}
 
@@ -32,11 +33,12 @@ private:
 };
 
 /// The markup, which is to stand inside a body, with nothing in it but what the whitelist allows.
-std::string clean(std::string_view bodyHtml, const Whitelist &whitelist);
+ORL_HTML_API std::string clean(std::string_view bodyHtml, const Whitelist &whitelist);
 /// Relative links are seen from the base URI.
-std::string clean(std::string_view bodyHtml, std::string_view baseUri, const Whitelist &whitelist);
-std::string clean(std::string_view bodyHtml, std::string_view baseUri, const Whitelist &whitelist,
-                  const OutputSettings &outputSettings);
-bool isValid(std::string_view bodyHtml, const Whitelist &whitelist);
+ORL_HTML_API std::string clean(std::string_view bodyHtml, std::string_view baseUri,
+                               const Whitelist &whitelist);
+ORL_HTML_API std::string clean(std::string_view bodyHtml, std::string_view baseUri,
+                               const Whitelist &whitelist, const OutputSettings &outputSettings);
+ORL_HTML_API bool isValid(std::string_view bodyHtml, const Whitelist &whitelist);
 
 } // namespace orl::html

@@ -2,13 +2,14 @@
 
 #include <orl/html/elements.h>
 #include <orl/html/evaluator.h>
+#include <orl/html/export.h>
 
 #include <string_view>
 
 namespace orl::html {
 
 /// One walk over an element and everything below it.
-struct Collector {
+struct ORL_HTML_API Collector {
     /// What the evaluator matches, in document order; the root may be among it. An evaluator's failure ends
     /// the walk and reaches the caller.
     static Elements collect(const Evaluator &evaluator, const Element &root);
@@ -16,7 +17,7 @@ struct Collector {
 
 /// A query and the element below which it is asked. An empty query fails with "String must not be empty",
 /// others as QueryParser says.
-class CssSelector {
+class ORL_HTML_API CssSelector {
 public:
     CssSelector(std::string_view query, const Element &root);
 

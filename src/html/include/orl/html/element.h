@@ -1,5 +1,6 @@
 #pragma once
 
+#include <orl/html/export.h>
 #include <orl/html/node.h>
 #include <orl/html/tag.h>
 
@@ -18,7 +19,7 @@ template<class Value>
 class OrderedSet;
 
 /// A node with a tag.
-class Element : public Node {
+class ORL_HTML_API Element : public Node {
 public:
     /// Nothing.
     Element() = default;
@@ -183,7 +184,7 @@ public:
 };
 
 /// A form, which knows the controls that belong to it wherever they stand. It keeps them alive.
-class FormElement : public Element {
+class ORL_HTML_API FormElement : public Element {
 public:
     FormElement() = default;
     FormElement(const Tag &tag, std::string_view baseUri);

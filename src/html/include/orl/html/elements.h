@@ -1,6 +1,7 @@
 #pragma once
 
 #include <orl/html/element.h>
+#include <orl/html/export.h>
 #include <orl/html/ordered_set.h>
 
 #include <cstddef>
@@ -16,7 +17,7 @@ namespace orl::html {
 ///
 /// Operations on "each" run over the entries in order and give the list back. They stop at the first entry
 /// that fails, with its failure; the entries before it stay changed.
-class Elements {
+class ORL_HTML_API Elements {
 public:
     using value_type = Element;
     using const_iterator = std::vector<Element>::const_iterator;

@@ -7,6 +7,7 @@
 #pragma once
 
 #include <orl/html/element.h>
+#include <orl/html/export.h>
 #include <orl/html/pattern.h>
 
 #include <cstddef>
@@ -25,7 +26,7 @@ struct Scope;
 class Evaluator;
 using EvaluatorPtr = std::shared_ptr<Evaluator>;
 
-class Evaluator {
+class ORL_HTML_API Evaluator {
 public:
     virtual ~Evaluator() = default;
 
@@ -81,7 +82,7 @@ public:
 
 /// Base of the engine's own evaluators. A single question costs about a microsecond; searches are far
 /// cheaper.
-class Evaluator::BuiltIn : public Evaluator {
+class ORL_HTML_API Evaluator::BuiltIn : public Evaluator {
 public:
     bool matches(const Element &root, const Element &element) const final;
     std::unique_ptr<core::Predicate> compile(core::Scope &scope) const override = 0;
@@ -90,7 +91,7 @@ public:
 // ---- Names
 
 /// The tag name in lower case.
-class Evaluator::Tag final : public BuiltIn {
+class ORL_HTML_API Evaluator::Tag final : public BuiltIn {
 public:
     explicit Tag(std::string_view tagName);
     const std::string &tagName() const { return tagName_; }
@@ -103,7 +104,7 @@ private:
 };
 
 /// The end of the tag name as it is written, such as ":name" in any namespace.
-class Evaluator::TagEndsWith final : public BuiltIn {
+class ORL_HTML_API Evaluator::TagEndsWith final : public BuiltIn {
 public:
     explicit TagEndsWith(std::string_view tagName);
     const std::string &tagName() const { return tagName_; }
@@ -115,7 +116,7 @@ private:
 };
 
 /// Exactly this id.
-class Evaluator::Id final : public BuiltIn {
+class ORL_HTML_API Evaluator::Id final : public BuiltIn {
 public:
     explicit Id(std::string_view id);
     const std::string &id() const { return id_; }
@@ -127,7 +128,7 @@ private:
 };
 
 /// Element::hasClass.
-class Evaluator::Class final : public BuiltIn {
+class ORL_HTML_API Evaluator::Class final : public BuiltIn {
 public:
     explicit Class(std::string_view className);
     const std::string &className() const { return className_; }
@@ -140,7 +141,7 @@ private:
 
 // ---- Attributes. Keys match in any case, and "abs:" before one means the resolved URL, as in Node::attr.
 
-class Evaluator::Attribute final : public BuiltIn {
+class ORL_HTML_API Evaluator::Attribute final : public BuiltIn {
 public:
     explicit Attribute(std::string_view key);
     const std::string &key() const { return key_; }
@@ -152,7 +153,7 @@ private:
 };
 
 /// Some key starts with the prefix. An empty prefix fails with "String must not be empty".
-class Evaluator::AttributeStarting final : public BuiltIn {
+class ORL_HTML_API Evaluator::AttributeStarting final : public BuiltIn {
 public:
     explicit AttributeStarting(std::string_view keyPrefix);
     const std::string &keyPrefix() const { return keyPrefix_; }
@@ -165,7 +166,7 @@ private:
 
 /// Base of those that compare a value, in lower case. The key is trimmed, the value loses quotes around it
 /// and is trimmed; one that was given empty fails with "String must not be empty".
-class Evaluator::AttributeKeyPair : public BuiltIn {
+class ORL_HTML_API Evaluator::AttributeKeyPair : public BuiltIn {
 public:
     const std::string &key() const { return key_; }
     const std::string &value() const { return value_; }
@@ -179,7 +180,7 @@ private:
 };
 
 /// The trimmed attribute is the value.
-class Evaluator::AttributeWithValue final : public AttributeKeyPair {
+class ORL_HTML_API Evaluator::AttributeWithValue final : public AttributeKeyPair {
 public:
     AttributeWithValue(std::string_view key, std::string_view value) : AttributeKeyPair(key, value) {}
     std::string toString() const override { return textForm("="); }
@@ -187,28 +188,28 @@ public:
 };
 
 /// The attribute, "" where it is missing, is not the value.
-class Evaluator::AttributeWithValueNot final : public AttributeKeyPair {
+class ORL_HTML_API Evaluator::AttributeWithValueNot final : public AttributeKeyPair {
 public:
     AttributeWithValueNot(std::string_view key, std::string_view value) : AttributeKeyPair(key, value) {}
     std::string toString() const override { return textForm("!="); }
     std::unique_ptr<core::Predicate> compile(core::Scope &scope) const override;
 };
 
-class Evaluator::AttributeWithValueStarting final : public AttributeKeyPair {
+class ORL_HTML_API Evaluator::AttributeWithValueStarting final : public AttributeKeyPair {
 public:
     AttributeWithValueStarting(std::string_view key, std::string_view value) : AttributeKeyPair(key, value) {}
     std::string toString() const override { return textForm("^="); }
     std::unique_ptr<core::Predicate> compile(core::Scope &scope) const override;
 };
 
-class Evaluator::AttributeWithValueEnding final : public AttributeKeyPair {
+class ORL_HTML_API Evaluator::AttributeWithValueEnding final : public AttributeKeyPair {
 public:
     AttributeWithValueEnding(std::string_view key, std::string_view value) : AttributeKeyPair(key, value) {}
     std::string toString() const override { return textForm("$="); }
     std::unique_ptr<core::Predicate> compile(core::Scope &scope) const override;
 };
 
-class Evaluator::AttributeWithValueContaining final : public AttributeKeyPair {
+class ORL_HTML_API Evaluator::AttributeWithValueContaining final : public AttributeKeyPair {
 public:
     AttributeWithValueContaining(std::string_view key, std::string_view value)
         : AttributeKeyPair(key, value) {}
@@ -217,7 +218,7 @@ public:
 };
 
 /// The pattern is found in the attribute.
-class Evaluator::AttributeWithValueMatching final : public BuiltIn {
+class ORL_HTML_API Evaluator::AttributeWithValueMatching final : public BuiltIn {
 public:
     AttributeWithValueMatching(std::string_view key, Pattern pattern);
     const std::string &key() const { return key_; }
@@ -232,14 +233,14 @@ private:
 
 // ---- Places. These look at the element's real parent, inside the root or not.
 
-class Evaluator::AllElements final : public BuiltIn {
+class ORL_HTML_API Evaluator::AllElements final : public BuiltIn {
 public:
     std::string toString() const override { return "*"; }
     std::unique_ptr<core::Predicate> compile(core::Scope &scope) const override;
 };
 
 /// Base of those that compare the element's place among its parent's child elements, counted from 0.
-class Evaluator::IndexEvaluator : public BuiltIn {
+class ORL_HTML_API Evaluator::IndexEvaluator : public BuiltIn {
 public:
     std::ptrdiff_t index() const { return index_; }
 
@@ -251,21 +252,21 @@ private:
     std::ptrdiff_t index_;
 };
 
-class Evaluator::IndexLessThan final : public IndexEvaluator {
+class ORL_HTML_API Evaluator::IndexLessThan final : public IndexEvaluator {
 public:
     explicit IndexLessThan(std::ptrdiff_t index) : IndexEvaluator(index) {}
     std::string toString() const override { return textForm(":lt("); }
     std::unique_ptr<core::Predicate> compile(core::Scope &scope) const override;
 };
 
-class Evaluator::IndexGreaterThan final : public IndexEvaluator {
+class ORL_HTML_API Evaluator::IndexGreaterThan final : public IndexEvaluator {
 public:
     explicit IndexGreaterThan(std::ptrdiff_t index) : IndexEvaluator(index) {}
     std::string toString() const override { return textForm(":gt("); }
     std::unique_ptr<core::Predicate> compile(core::Scope &scope) const override;
 };
 
-class Evaluator::IndexEquals final : public IndexEvaluator {
+class ORL_HTML_API Evaluator::IndexEquals final : public IndexEvaluator {
 public:
     explicit IndexEquals(std::ptrdiff_t index) : IndexEvaluator(index) {}
     std::string toString() const override { return textForm(":eq("); }
@@ -274,7 +275,7 @@ public:
 
 /// Base of those that match every a-th place from the b-th on, counted from 1; with `a` 0 the b-th only.
 /// Children of a document, and elements without a parent, match none of them.
-class Evaluator::CssNthEvaluator : public BuiltIn {
+class ORL_HTML_API Evaluator::CssNthEvaluator : public BuiltIn {
 public:
     CssNthEvaluator(std::ptrdiff_t a, std::ptrdiff_t b) : a_(a), b_(b) {}
 
@@ -288,7 +289,7 @@ private:
     std::ptrdiff_t a_, b_;
 };
 
-class Evaluator::IsNthChild final : public CssNthEvaluator {
+class ORL_HTML_API Evaluator::IsNthChild final : public CssNthEvaluator {
 public:
     using CssNthEvaluator::CssNthEvaluator;
     std::ptrdiff_t calculatePosition(const Element &root, const Element &element) const override;
@@ -296,7 +297,7 @@ public:
     std::unique_ptr<core::Predicate> compile(core::Scope &scope) const override;
 };
 
-class Evaluator::IsNthLastChild final : public CssNthEvaluator {
+class ORL_HTML_API Evaluator::IsNthLastChild final : public CssNthEvaluator {
 public:
     using CssNthEvaluator::CssNthEvaluator;
     std::ptrdiff_t calculatePosition(const Element &root, const Element &element) const override;
@@ -305,7 +306,7 @@ public:
 };
 
 /// Counts the siblings of an equal tag only.
-class Evaluator::IsNthOfType : public CssNthEvaluator {
+class ORL_HTML_API Evaluator::IsNthOfType : public CssNthEvaluator {
 public:
     using CssNthEvaluator::CssNthEvaluator;
     std::ptrdiff_t calculatePosition(const Element &root, const Element &element) const override;
@@ -313,7 +314,7 @@ public:
     std::unique_ptr<core::Predicate> compile(core::Scope &scope) const override;
 };
 
-class Evaluator::IsNthLastOfType : public CssNthEvaluator {
+class ORL_HTML_API Evaluator::IsNthLastOfType : public CssNthEvaluator {
 public:
     using CssNthEvaluator::CssNthEvaluator;
     std::ptrdiff_t calculatePosition(const Element &root, const Element &element) const override;
@@ -321,13 +322,13 @@ public:
     std::unique_ptr<core::Predicate> compile(core::Scope &scope) const override;
 };
 
-class Evaluator::IsFirstOfType final : public IsNthOfType {
+class ORL_HTML_API Evaluator::IsFirstOfType final : public IsNthOfType {
 public:
     IsFirstOfType() : IsNthOfType(0, 1) {}
     std::string toString() const override { return ":first-of-type"; }
 };
 
-class Evaluator::IsLastOfType final : public IsNthLastOfType {
+class ORL_HTML_API Evaluator::IsLastOfType final : public IsNthLastOfType {
 public:
     IsLastOfType() : IsNthLastOfType(0, 1) {}
     std::string toString() const override { return ":last-of-type"; }
@@ -335,7 +336,7 @@ public:
 
 // The next four match no child of a document.
 
-class Evaluator::IsFirstChild final : public BuiltIn {
+class ORL_HTML_API Evaluator::IsFirstChild final : public BuiltIn {
 public:
     std::string toString() const override { return ":first-child"; }
     std::unique_ptr<core::Predicate> compile(core::Scope &scope) const override;
@@ -343,33 +344,33 @@ public:
 
 /// The place among the child elements is the last place among all child nodes; so in a list with white space
 /// between its items no item matches.
-class Evaluator::IsLastChild final : public BuiltIn {
+class ORL_HTML_API Evaluator::IsLastChild final : public BuiltIn {
 public:
     std::string toString() const override { return ":last-child"; }
     std::unique_ptr<core::Predicate> compile(core::Scope &scope) const override;
 };
 
-class Evaluator::IsOnlyChild final : public BuiltIn {
+class ORL_HTML_API Evaluator::IsOnlyChild final : public BuiltIn {
 public:
     std::string toString() const override { return ":only-child"; }
     std::unique_ptr<core::Predicate> compile(core::Scope &scope) const override;
 };
 
-class Evaluator::IsOnlyOfType final : public BuiltIn {
+class ORL_HTML_API Evaluator::IsOnlyOfType final : public BuiltIn {
 public:
     std::string toString() const override { return ":only-of-type"; }
     std::unique_ptr<core::Predicate> compile(core::Scope &scope) const override;
 };
 
 /// The root of the search, or its first child element if that root is a document.
-class Evaluator::IsRoot final : public BuiltIn {
+class ORL_HTML_API Evaluator::IsRoot final : public BuiltIn {
 public:
     std::string toString() const override { return ":root"; }
     std::unique_ptr<core::Predicate> compile(core::Scope &scope) const override;
 };
 
 /// No child nodes but comments, XML declarations and document types.
-class Evaluator::IsEmpty final : public BuiltIn {
+class ORL_HTML_API Evaluator::IsEmpty final : public BuiltIn {
 public:
     std::string toString() const override { return ":empty"; }
     std::unique_ptr<core::Predicate> compile(core::Scope &scope) const override;
@@ -378,7 +379,7 @@ public:
 // ---- Text: Element::text, or Element::ownText in those called Own.
 
 /// Contains the text, whatever the case.
-class Evaluator::ContainsText final : public BuiltIn {
+class ORL_HTML_API Evaluator::ContainsText final : public BuiltIn {
 public:
     explicit ContainsText(std::string_view searchText);
     const std::string &searchText() const { return searchText_; }
@@ -389,7 +390,7 @@ private:
     std::string searchText_;
 };
 
-class Evaluator::ContainsOwnText final : public BuiltIn {
+class ORL_HTML_API Evaluator::ContainsOwnText final : public BuiltIn {
 public:
     explicit ContainsOwnText(std::string_view searchText);
     const std::string &searchText() const { return searchText_; }
@@ -400,7 +401,7 @@ private:
     std::string searchText_;
 };
 
-class Evaluator::Matches final : public BuiltIn {
+class ORL_HTML_API Evaluator::Matches final : public BuiltIn {
 public:
     explicit Matches(Pattern pattern);
     const Pattern &pattern() const { return pattern_; }
@@ -411,7 +412,7 @@ private:
     Pattern pattern_;
 };
 
-class Evaluator::MatchesOwn final : public BuiltIn {
+class ORL_HTML_API Evaluator::MatchesOwn final : public BuiltIn {
 public:
     explicit MatchesOwn(Pattern pattern);
     const Pattern &pattern() const { return pattern_; }
@@ -425,7 +426,7 @@ private:
 // ---- Combinations
 
 /// Several evaluators in one. It may be changed as long as no search with it is under way.
-class CombiningEvaluator : public Evaluator::BuiltIn {
+class ORL_HTML_API CombiningEvaluator : public Evaluator::BuiltIn {
 public:
     class And;
     class Or;
@@ -449,7 +450,7 @@ private:
 };
 
 /// All of them, asked in order.
-class CombiningEvaluator::And final : public CombiningEvaluator {
+class ORL_HTML_API CombiningEvaluator::And final : public CombiningEvaluator {
 public:
     explicit And(std::vector<EvaluatorPtr> evaluators) : CombiningEvaluator(std::move(evaluators)) {}
     std::string toString() const override { return joined(" "); }
@@ -457,7 +458,7 @@ public:
 };
 
 /// Any of them.
-class CombiningEvaluator::Or final : public CombiningEvaluator {
+class ORL_HTML_API CombiningEvaluator::Or final : public CombiningEvaluator {
 public:
     explicit Or(std::vector<EvaluatorPtr> evaluators = {}) : CombiningEvaluator(std::move(evaluators)) {}
     void add(EvaluatorPtr evaluator) { addEvaluator(std::move(evaluator)); }
@@ -467,7 +468,7 @@ public:
 
 /// Asks another evaluator about elements that stand in some relation to the one at hand. The relations that
 /// lead up or to siblings never hold for the root itself.
-class StructuralEvaluator : public Evaluator::BuiltIn {
+class ORL_HTML_API StructuralEvaluator : public Evaluator::BuiltIn {
 public:
     class Root;
     class Has;
@@ -486,7 +487,7 @@ private:
     EvaluatorPtr evaluator_;
 };
 
-class StructuralEvaluator::Root final : public Evaluator::BuiltIn {
+class ORL_HTML_API StructuralEvaluator::Root final : public Evaluator::BuiltIn {
 public:
     std::string toString() const override { return ""; }
     std::unique_ptr<core::Predicate> compile(core::Scope &scope) const override;
@@ -494,14 +495,14 @@ public:
 
 /// Some element below it, as seen from the element at hand as root, so that "> p" means its children. A
 /// descendant for which the evaluator fails counts as not matching.
-class StructuralEvaluator::Has final : public StructuralEvaluator {
+class ORL_HTML_API StructuralEvaluator::Has final : public StructuralEvaluator {
 public:
     explicit Has(EvaluatorPtr evaluator) : StructuralEvaluator(std::move(evaluator)) {}
     std::string toString() const override { return ":has(" + evaluator()->toString() + ")"; }
     std::unique_ptr<core::Predicate> compile(core::Scope &scope) const override;
 };
 
-class StructuralEvaluator::Not final : public StructuralEvaluator {
+class ORL_HTML_API StructuralEvaluator::Not final : public StructuralEvaluator {
 public:
     explicit Not(EvaluatorPtr evaluator) : StructuralEvaluator(std::move(evaluator)) {}
     std::string toString() const override { return ":not" + evaluator()->toString(); }
@@ -509,14 +510,14 @@ public:
 };
 
 /// Some element above it, up to and including the root.
-class StructuralEvaluator::Parent final : public StructuralEvaluator {
+class ORL_HTML_API StructuralEvaluator::Parent final : public StructuralEvaluator {
 public:
     explicit Parent(EvaluatorPtr evaluator) : StructuralEvaluator(std::move(evaluator)) {}
     std::string toString() const override { return evaluator()->toString() + ":parent"; }
     std::unique_ptr<core::Predicate> compile(core::Scope &scope) const override;
 };
 
-class StructuralEvaluator::ImmediateParent final : public StructuralEvaluator {
+class ORL_HTML_API StructuralEvaluator::ImmediateParent final : public StructuralEvaluator {
 public:
     explicit ImmediateParent(EvaluatorPtr evaluator) : StructuralEvaluator(std::move(evaluator)) {}
     std::string toString() const override { return evaluator()->toString() + ":ImmediateParent"; }
@@ -524,7 +525,7 @@ public:
 };
 
 /// Some element before it under the same parent. One for which the evaluator fails counts as not matching.
-class StructuralEvaluator::PreviousSibling final : public StructuralEvaluator {
+class ORL_HTML_API StructuralEvaluator::PreviousSibling final : public StructuralEvaluator {
 public:
     explicit PreviousSibling(EvaluatorPtr evaluator) : StructuralEvaluator(std::move(evaluator)) {}
     std::string toString() const override { return evaluator()->toString() + ":prev*"; }
@@ -532,7 +533,7 @@ public:
 };
 
 /// The element right before it under the same parent.
-class StructuralEvaluator::ImmediatePreviousSibling final : public StructuralEvaluator {
+class ORL_HTML_API StructuralEvaluator::ImmediatePreviousSibling final : public StructuralEvaluator {
 public:
     explicit ImmediatePreviousSibling(EvaluatorPtr evaluator) : StructuralEvaluator(std::move(evaluator)) {}
     std::string toString() const override { return evaluator()->toString() + ":prev"; }

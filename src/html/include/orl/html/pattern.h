@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orl/html/export.h>
+
 #include <cstddef>
 #include <memory>
 #include <optional>
@@ -19,7 +21,7 @@ class PatternSearch;
 ///
 /// Expressions come from outside the program, so matching is bounded in time and memory: a match that takes
 /// more than about a second or 64 MB fails with Exception::Error of type IllegalArgumentException.
-class Pattern {
+class ORL_HTML_API Pattern {
 public:
     /// Keeps the text even if it is no regular expression: validate() and every attempt to match tell.
     static Pattern compile(std::string_view text);
@@ -47,7 +49,7 @@ private:
 };
 
 /// The matches of a pattern in a text, one after the other; all of them are found when the matcher is made.
-class Matcher {
+class ORL_HTML_API Matcher {
 public:
     Matcher(const Pattern &pattern, std::string_view text);
     Matcher(Matcher &&) noexcept;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <orl/html/evaluator.h>
+#include <orl/html/export.h>
 
 #include <string_view>
 
@@ -16,7 +17,7 @@ namespace orl::html {
 /// | A B, A > B, A + B, A ~ B   | below, child of, right after, anywhere after |
 /// | A, B                       | either |
 /// | > B                        | child of the root of the search; likewise the other combinators |
-class QueryParser {
+class ORL_HTML_API QueryParser {
 public:
     /// A query of white space only fails with "String must not be empty", one that is no selector with an
     /// Error of type SelectorParseException or IllegalArgumentException that says why, one that nests more

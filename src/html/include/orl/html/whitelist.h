@@ -1,6 +1,7 @@
 #pragma once
 
 #include <orl/html/element.h>
+#include <orl/html/export.h>
 
 #include <map>
 #include <set>
@@ -19,7 +20,7 @@ namespace orl::html {
 ///
 /// In all operations an empty tag, key, value or protocol fails with "String must not be empty", and an empty
 /// list of keys with "No attributes supplied.", both of type IllegalArgumentException.
-class Whitelist {
+class ORL_HTML_API Whitelist {
 public:
     using Texts = std::vector<std::string>;
 
