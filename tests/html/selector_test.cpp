@@ -232,7 +232,10 @@ TEST_F(SelectorTest, HasLooksAtTheElementItselfAsRootOnly) {
                          {"div:has(body p)", ""},
                          {"div:has(div > div)", "a"},
                          {"div:has(p:not(> p))", "a"},
-                         {"div:has(div:root)", ""}});
+                         {"div:has(div:root)", ""},
+                         {"div:has(div + p)", ""},
+                         {"div:has(div ~ div)", ""},
+                         {"body:has(div ~ div)", ""}});
 }
 
 TEST_F(SelectorTest, WhatCannotBeParsedSaysWhy) {
@@ -507,6 +510,14 @@ public:
         return page;
     }
 
+    /// Many children of one parent.
+    std::string row(int children) {
+        std::string page = "<c>";
+        for (int i = 0; i < children; ++i)
+            page += one({"<a", "<b", "<d"}) + attributes() + "/>" + one({"", "", " ", "<!---->"});
+        return page + "</c>";
+    }
+
     std::string query(int depth = 2) {
         std::string query = below(8) == 0 ? "> " : "";
         const int steps = 1 + below(3);
@@ -563,6 +574,9 @@ private:
                     ":empty",
                     ":root",
                     ":contains(x)",
+                    ":contains(x )",
+                    ":contains( y)",
+                    ":contains(x x)",
                     ":contains(y z)",
                     ":containsOwn(x)",
                     ":matches(^x)",
@@ -582,7 +596,7 @@ TEST(SelectorOracle, SearchesFindWhatANaiveWalkFinds) {
     int hits = 0;
     for (int tree = 0; tree < 60; ++tree) {
         Parser parser = tree % 2 ? Parser::xmlParser() : Parser::htmlParser();
-        const std::string markup = generator.markup(10 + tree * 3);
+        const std::string markup = tree % 5 == 0 ? generator.row(40) : generator.markup(10 + tree * 3);
         const Document page = parser.parseInput(markup, "");
         const Elements all = page.getAllElements();
         for (int i = 0; i < 60; ++i) {
