@@ -23,7 +23,7 @@ public:
     /// Sets bits of a value of 0 to 3.
     void add(const NodeRec *node, unsigned bits) {
         const Ref ref = refOf(node);
-        Page *page = ref / perPage == last_ ? page_ : make(ref / perPage);
+        Page *page = page_ && ref / perPage == last_ ? page_ : make(ref / perPage);
         (*page)[ref % perPage / perWord] |= std::uint64_t(bits) << shiftOf(ref);
     }
     void clear() {

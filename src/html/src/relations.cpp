@@ -205,7 +205,7 @@ private:
 
     /// Whether there is an element below the one that is asked about, or with `inclusive` that one itself,
     /// for which the query holds as seen from the one that is asked about, and the rest does too.
-    PredicatePtr build(const Evaluator &query, Rest rest, bool inclusive) {
+    PredicatePtr build(const Evaluator &query, const Rest &rest, bool inclusive) {
         if (const auto *any = dynamic_cast<const CombiningEvaluator::Or *>(&query))
             return buildAny(*any, rest, inclusive);
         std::vector<PredicatePtr> own;

@@ -69,7 +69,8 @@ private:
     template<class Meaning>
     struct TypedValue {
         static TypedValue valueOf(std::string_view text) { return {std::string(text)}; }
-        auto operator<=>(const TypedValue &) const = default;
+        bool operator==(const TypedValue &) const = default;
+        bool operator<(const TypedValue &other) const { return value < other.value; }
 
         std::string value;
     };
