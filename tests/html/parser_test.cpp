@@ -189,6 +189,28 @@ TEST(ErrorTest, StopAtTheLimitAndStartAnew) {
     EXPECT_TRUE(parser.getErrors().empty());
 }
 
+TEST(ParserTest, UnescapesText) {
+    EXPECT_EQ(Parser::unescapeEntities("&lt;", false), "<");
+    EXPECT_EQ(Parser::unescapeEntities("?a=1&copy=2", true), "?a=1&copy=2");
+    EXPECT_EQ(Parser::unescapeEntities("?a=1&copy=2", false), "?a=1©=2");
+}
+
+TEST(ParserTest, ParsesOnManyThreadsAtOnce) {
+    const std::string_view text =
+        "<!doctype html><x-y a=1 b-c='&notin;&amp;'>&eacute;<table><b>&hearts;<td><svg/></x-y>";
+    const std::string expected = dump(parse(text));
+    std::vector<std::thread> threads;
+    std::atomic<int> equal = 0;
+    for (int i = 0; i < 8; ++i)
+        threads.emplace_back([&] {
+            for (int round = 0; round < 100; ++round)
+                equal += dump(parse(text)) == expected;
+        });
+    for (std::thread &thread : threads)
+        thread.join();
+    EXPECT_EQ(equal, 800);
+}
+
 TEST(ParserTest, IsUsedForManyPages) {
     Parser parser = Parser::htmlParser();
     const Document first = parser.parseInput("<form><b><table><td><x>", "");

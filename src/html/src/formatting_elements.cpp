@@ -26,6 +26,17 @@ std::uint64_t keyOf(const NodeRec *node, TagId id, std::uint32_t level) {
 
 } // namespace
 
+const NodeRec FormattingElements::alwaysOpen = {.parent = 0,
+                                                .next = 0,
+                                                .prev = 0,
+                                                .kind = 0,
+                                                .flags = NodeRec::OpenElement,
+                                                .attrCount = 0,
+                                                .holders = 0,
+                                                .index = 0,
+                                                .tag = 0,
+                                                .branch = {0, 0}};
+
 FormattingElements::Entry *FormattingElements::find(TagId id) const {
     Entry *const entry = newestOfName_[unsigned(id)];
     return entry && entry->level == level() ? entry : nullptr;
@@ -55,6 +66,7 @@ void FormattingElements::link(Entry *entry, Entry *behind) {
     entry->newer = behind ? behind->newer : oldest_;
     (behind ? behind->newer : oldest_) = entry;
     (entry->newer ? entry->newer->older : newest_) = entry;
+    lookAtNewest();
     if (!entry->node) return;
     Entry *&ofName = newestOfName_[unsigned(entry->id)];
     entry->olderOfName = ofName;
@@ -83,8 +95,15 @@ void FormattingElements::unhash(Entry *entry) {
     entry->olderOfKey = entry->newerOfKey = nullptr;
 }
 
+void FormattingElements::reopen(Entry *entry, NodeRec *copy, std::uint32_t place) {
+    entry->node = copy;
+    entry->place = place;
+    lookAtNewest();
+}
+
 void FormattingElements::replace(Entry *entry, NodeRec *node) {
     entry->node = node;
+    lookAtNewest();
     if (!entry->hashed) return;
     unhash(entry);
     hashEntry(entry);
@@ -146,6 +165,7 @@ void FormattingElements::clear() {
 void FormattingElements::remove(Entry *entry) {
     (entry->older ? entry->older->newer : oldest_) = entry->newer;
     (entry->newer ? entry->newer->older : newest_) = entry->older;
+    lookAtNewest();
     if (entry->node) {
         if (entry->olderOfName) entry->olderOfName->newerOfName = entry->newerOfName;
         (entry->newerOfName ? entry->newerOfName->olderOfName : newestOfName_[unsigned(entry->id)]) =

@@ -34,6 +34,9 @@ public:
     FormattingElements(const FormattingElements &) = delete;
     FormattingElements &operator=(const FormattingElements &) = delete;
 
+    /// Whether the newest entry, if there is one, is a marker or an element that is open: nothing is to be
+    /// opened again.
+    bool isSettled() const { return newestNode_->flags & NodeRec::OpenElement; }
     /// The newest entry, which may be a marker; null for an empty list.
     Entry *newest() const { return newest_; }
     /// The newest entry of that name above the last marker.
@@ -49,6 +52,8 @@ public:
     void clearToLastMarker();
     void clear();
     void remove(Entry *entry);
+    /// A copy with the same attributes in the place of an entry's element.
+    void reopen(Entry *entry, NodeRec *copy, std::uint32_t place);
     /// Another element in the place of an entry's.
     void replace(Entry *entry, NodeRec *node);
     /// Puts an element behind `entry`, which may be null for the start of the list. The newest of its name.
@@ -59,6 +64,8 @@ private:
     /// Entries of one level that are compared one by one; from there on they are hashed.
     static constexpr unsigned few = 16;
 
+    static const NodeRec alwaysOpen;
+
     struct Level {
         std::uint32_t count = 0;
         bool hashed = false;
@@ -66,12 +73,14 @@ private:
 
     Entry *make(NodeRec *node, TagId id, std::uint32_t level);
     void link(Entry *entry, Entry *behind);
+    void lookAtNewest() { newestNode_ = newest_ && newest_->node ? newest_->node : &alwaysOpen; }
     void hashEntry(Entry *entry);
     void unhash(Entry *entry);
     void hashLevel();
     Entry *thirdOfTheSame(const NodeRec *node, TagId id, std::uint64_t key) const;
 
     Entry *newest_ = nullptr, *oldest_ = nullptr;
+    const NodeRec *newestNode_ = &alwaysOpen; ///< the newest entry's element; without one, one that is open
     std::array<Entry *, tagCount> newestOfName_{};
     std::unordered_map<std::uint64_t, Entry *> newestOfKey_;
     std::vector<Level> levels_{1};

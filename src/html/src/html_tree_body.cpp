@@ -3,7 +3,7 @@
 #include "html_tree_builder.h"
 
 #include <algorithm>
-#include <array>
+#include <iterator>
 
 namespace orl::html {
 
@@ -120,22 +120,8 @@ constexpr BodyEnd endOf(TagId id, std::uint64_t sets) {
     return BodyEnd::AnyOther; // "sarcasm" too, after a deep breath
 }
 
-struct Meaning {
-    BodyStart start = BodyStart::AnyOther;
-    BodyEnd end = BodyEnd::AnyOther;
-};
-
-constexpr std::array<Meaning, tagCount> meanings = [] {
-    std::array<Meaning, tagCount> made{};
-#define ORL_HTML_TAG_MEANING(id, name)                                                                       \
-    made[unsigned(TagId::id)] = {startOf(TagId::id, tagSets(name)), endOf(TagId::id, tagSets(name))};
-    ORL_HTML_TAGS(ORL_HTML_TAG_MEANING)
-#undef ORL_HTML_TAG_MEANING
-    return made;
-}();
-
 /// End tags that, when they name the current element, do no more than to close it.
-constexpr bool closesSimply(BodyEnd end) {
+constexpr bool isSimple(BodyEnd end) {
     switch (end) {
     case BodyEnd::AnyOther:
     case BodyEnd::Closer:
@@ -152,6 +138,26 @@ constexpr bool closesSimply(BodyEnd end) {
     }
     return false;
 }
+
+struct Meaning {
+    BodyStart start = BodyStart::AnyOther;
+    BodyEnd end = BodyEnd::AnyOther;
+    bool closesSimply = true;
+};
+
+// One constant a name, as compilers bound what they compute for one.
+#define ORL_HTML_TAG_MEANING(id, name)                                                                       \
+    constexpr Meaning meaningOf##id{startOf(TagId::id, tagSets(name)), endOf(TagId::id, tagSets(name)),      \
+                                    isSimple(endOf(TagId::id, tagSets(name)))};
+ORL_HTML_TAGS(ORL_HTML_TAG_MEANING)
+#undef ORL_HTML_TAG_MEANING
+
+/// By TagId.
+constexpr Meaning meanings[tagCount] = {{},
+#define ORL_HTML_TAG_MEANING(id, name) meaningOf##id,
+                                        ORL_HTML_TAGS(ORL_HTML_TAG_MEANING)
+#undef ORL_HTML_TAG_MEANING
+};
 
 } // namespace
 
@@ -249,12 +255,12 @@ bool HtmlTreeBuilder::bodyStart(Start &tag) {
 }
 
 bool HtmlTreeBuilder::bodyEnd(End &tag) {
-    const BodyEnd end = meanings[unsigned(tag.id())].end;
-    if (tag.known == currentTag() && closesSimply(end)) [[likely]] {
+    const Meaning &meaning = meanings[unsigned(tag.id())];
+    if (tag.known == currentTag() && meaning.closesSimply) {
         pop();
         return true;
     }
-    switch (end) {
+    switch (meaning.end) {
     case BodyEnd::AnyOther: return anyOtherEndTag(tag);
     case BodyEnd::Body: return endBody(tag);
     case BodyEnd::Html: return processEndTag(TagId::Body) ? process(tag) : false;

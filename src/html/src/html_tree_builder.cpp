@@ -408,8 +408,7 @@ void HtmlTreeBuilder::reopenFormattingElements() {
         NodeRec *const clone = cloneOf(entry->node);
         insertNode(clone);
         open_.push(clone, tagRec(entry->id));
-        entry->node = clone;
-        entry->place = open_.size();
+        formatting_.reopen(entry, clone, open_.size());
     }
 }
 

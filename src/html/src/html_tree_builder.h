@@ -115,8 +115,7 @@ private:
     // The list of active formatting elements.
     void pushActiveFormattingElements(NodeRec *element, TagId id);
     void reconstructFormattingElements() {
-        const Formatting *const newest = formatting_.newest();
-        if (newest && !isMarkerOrOpen(newest)) [[unlikely]]
+        if (!formatting_.isSettled()) [[unlikely]]
             reopenFormattingElements();
     }
     void reopenFormattingElements();

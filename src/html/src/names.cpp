@@ -4,10 +4,12 @@
 #include "tag_sets.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cstring>
 #include <iterator>
 #include <new>
+#include <random>
 
 namespace orl::html::core {
 
@@ -320,19 +322,39 @@ const NameRec *knownName(std::string_view name) {
     return id < 0 ? nullptr : nameRec(NameId(id));
 }
 
+namespace {
+
+/// Different in each run of the program, so that no page can be made of names that fall into one place.
+const std::array<std::uint64_t, 2> &hashSeeds() {
+    static const std::array<std::uint64_t, 2> seeds = [] {
+        std::random_device random;
+        const auto number = [&random] { return std::uint64_t(random()) << 32 | random(); };
+        return std::array<std::uint64_t, 2>{number(), number()};
+    }();
+    return seeds;
+}
+
+/// Both halves of the product.
+std::uint64_t multiplied(std::uint64_t left, std::uint64_t right) {
+    __extension__ using Product = unsigned __int128;
+    const Product product = Product(left) * right;
+    return std::uint64_t(product) ^ std::uint64_t(product >> 64);
+}
+
+} // namespace
+
 std::uint32_t hashOf(std::string_view text) {
-    std::uint64_t hash = text.size() * 0x9e3779b97f4a7c15U;
     const char *p = text.data();
     std::size_t left = text.size();
-    const auto mix = [&hash](NameKey key) {
-        hash = (hash ^ key.low) * 0xd6e8feb86659fd93U;
-        hash = (hash ^ (hash >> 32) ^ key.high) * 0xd6e8feb86659fd93U;
-        hash ^= hash >> 32;
+    std::uint64_t hash = left;
+    const auto &seeds = hashSeeds();
+    const auto mix = [&hash, &seeds](NameKey key) {
+        hash = multiplied(key.low ^ hash ^ seeds[0], key.high ^ seeds[1]);
     };
     for (; left > 16; p += 16, left -= 16)
         mix(keyOf(p, 16));
     mix(keyOf(p, left));
-    return std::uint32_t(hash);
+    return std::uint32_t(hash ^ (hash >> 32));
 }
 
 bool isBooleanAttribute(std::string_view lowerName) {

@@ -32,6 +32,7 @@ public:
     // After ensure():
     void put(char c) { *cursor_++ = c; }
     void put(std::string_view text) {
+        if (text.empty()) return; // which may have no address
         std::memcpy(cursor_, text.data(), text.size());
         cursor_ += text.size();
     }

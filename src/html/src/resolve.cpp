@@ -1,6 +1,7 @@
 #include "orl/html/string_util.h"
 #include "scan.h"
 
+#include <algorithm>
 #include <cstring>
 #include <string>
 #include <uriparser/Uri.h>
@@ -13,17 +14,44 @@ bool isHex(char c) {
     return core::isClass(c, core::HexByte);
 }
 
+/// The text without what a browser does not see in an address: line feeds, carriage returns and tabs
+/// anywhere, and controls and blanks around it.
+std::string visible(std::string_view text) {
+    const auto isInvisible = [](char c) { return static_cast<unsigned char>(c) <= ' '; };
+    while (!text.empty() && isInvisible(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isInvisible(text.back()))
+        text.remove_suffix(1);
+    std::string address(text);
+    std::erase_if(address, [](char c) { return c == '\n' || c == '\r' || c == '\t'; });
+    return address;
+}
+
+/// Where the path starts: behind the host, if there is one. Only a host may have square brackets.
+std::size_t startOfPath(std::string_view address) {
+    const std::size_t slash = address.find_first_of("/?#");
+    const bool hasHost = slash != std::string_view::npos && address.substr(slash, 2) == "//" &&
+                         (slash == 0 || address[slash - 1] == ':');
+    if (!hasHost) return 0;
+    return std::min(address.find_first_of("/?#", slash + 2), address.size());
+}
+
 /// The text as a URL may spell it: what must not stand in one as it is, such as a blank, is encoded.
 std::string encoded(std::string_view text) {
     constexpr std::string_view refused = " \"<>\\^`{|}";
     constexpr char digits[] = "0123456789ABCDEF";
+    const std::string address = visible(text);
+    const std::size_t path = startOfPath(address), fragment = address.find('#');
     std::string url;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const auto byte = static_cast<unsigned char>(text[i]);
+    for (std::size_t i = 0; i < address.size(); ++i) {
+        const char c = address[i];
+        const auto byte = static_cast<unsigned char>(c);
         const bool badEscape =
-            byte == '%' && !(i + 2 < text.size() && isHex(text[i + 1]) && isHex(text[i + 2]));
-        if (byte > 0x20 && byte < 0x7f && !badEscape && refused.find(text[i]) == std::string_view::npos)
-            url += text[i];
+            c == '%' && !(i + 2 < address.size() && isHex(address[i + 1]) && isHex(address[i + 2]));
+        const bool misplaced = ((c == '[' || c == ']') && i >= path) || (c == '#' && i != fragment);
+        if (byte > 0x20 && byte < 0x7f && !badEscape && !misplaced &&
+            refused.find(c) == std::string_view::npos)
+            url += c;
         else
             url += {'%', digits[byte >> 4], digits[byte & 15]};
     }

@@ -7,9 +7,15 @@
 #include <string_view>
 #include <vector>
 
+namespace orl::html {
+class Elements;
+} // namespace orl::html
+
 namespace orl::html::core {
 
 using Found = std::vector<NodeRec *>;
+
+Elements asElements(const Found &found);
 
 /// A tag name in lower case, compared with the normal names of elements.
 class TagName {
@@ -29,7 +35,7 @@ private:
     Ref known_;
 };
 
-/// The elements for which `matches` is true.
+/// The elements of the subtree for which `matches` is true.
 template<class Matches>
 Found findAll(NodeRec *root, Matches matches) {
     Found found;
@@ -38,16 +44,13 @@ Found findAll(NodeRec *root, Matches matches) {
     return found;
 }
 
-/// The first such element; null without one.
+/// The first element of the subtree for which `matches` is true; null without one.
 template<class Matches>
 NodeRec *findFirst(NodeRec *root, Matches matches) {
     for (NodeRec *node = root; node; node = nextInTree(node, root))
         if (isElement(node) && matches(node)) return node;
     return nullptr;
 }
-
-/// The elements whose text() in lower case contains the given text; linear in the size of the tree.
-Found elementsContaining(NodeRec *root, std::string_view lowerText);
 
 inline std::string_view idOf(const NodeRec *element) {
     static const AnyCaseKey key("id");

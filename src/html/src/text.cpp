@@ -72,7 +72,6 @@ void copyOne(char *&to, const char *&p, const char *end, bool &afterBlank) {
 using Mask = std::uint64_t;
 constexpr unsigned vectorSize = 16;
 constexpr Mask oneByte = (Mask(1) << scan::bitsPerByte) - 1;
-constexpr Mask allBytes = scan::bitsPerByte == 4 ? ~Mask(0) : (Mask(1) << vectorSize) - 1;
 
 /// The bytes that stop plain copying: a character that is written as a reference, white space other than a
 /// blank, and white space after white space.

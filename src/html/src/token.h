@@ -2,12 +2,12 @@
 #pragma once
 
 #include "core.h"
+#include "pile.h"
 
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace orl::html::core {
 
@@ -74,7 +74,7 @@ public:
     bool selfClosing = false;
     /// Names are interned, in lower case unless the settings keep case; a name that is written the same way
     /// twice stands once, with its last value. A null value is an attribute without one.
-    std::vector<AttrRec> attributes;
+    Pile<AttrRec> attributes;
 
     TagId id() const { return known ? known->id : TagId::Unknown; }
     std::uint64_t sets() const { return known ? known->sets : 0; }

@@ -358,7 +358,10 @@ void Tokeniser::afterAttributeName() {
     switch (reader_.current()) {
     case '/': return advanceTransition(State::SelfClosingStartTag);
     case '=': return advanceTransition(State::BeforeAttributeValue);
-    case '>': emitTagPending(); return advanceTransition(State::Data);
+    case '>':
+        reader_.advance();
+        emitTagPending();
+        return transition(State::Data);
     case eof: return eofErrorTo(State::Data);
     default: return transition(State::BeforeAttributeName);
     }
@@ -371,8 +374,9 @@ void Tokeniser::beforeAttributeValue() {
     case '\'': return advanceTransition(State::AttributeValue_singleQuoted);
     case '>':
         error();
+        reader_.advance();
         emitTagPending();
-        return advanceTransition(State::Data);
+        return transition(State::Data);
     case eof: return eofErrorTo(State::Data);
     default: return transition(State::AttributeValue_unquoted);
     }
@@ -474,7 +478,7 @@ void Tokeniser::createCommentPending() {
 }
 
 void Tokeniser::emitCommentPending() {
-    commentPending_.data = pendingComment_.take(arena_);
+    commentPending_.data = pendingComment_.isPresent() ? pendingComment_.take(arena_) : "";
     emit(commentPending_);
 }
 
@@ -484,7 +488,7 @@ void Tokeniser::commentGoesOn(std::string_view held) {
     case 0:
         error();
         reader_.advance();
-        pendingComment_.append(held);
+        if (!held.empty()) pendingComment_.append(held);
         pendingComment_.append(replacement);
         return transition(State::Comment);
     case eof:

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orl/html/export.h>
+
 #include <cstddef>
 #include <iterator>
 #include <map>
@@ -20,7 +22,7 @@ struct NodeRec;
 
 /// One attribute, as a handle: copies of the handle are the same attribute, and what is set on one is seen by
 /// all, and by every list that the attribute stands in. Equality compares value and key.
-class Attribute {
+class ORL_HTML_API Attribute {
 public:
     /// The key is trimmed; an empty one fails with "String must not be empty".
     Attribute(std::string_view key, std::string_view value);
@@ -71,14 +73,14 @@ private:
 };
 
 /// A key without a value. In the `html` syntax it prints as the bare key, whatever the key.
-class BooleanAttribute : public Attribute {
+class ORL_HTML_API BooleanAttribute : public Attribute {
 public:
     explicit BooleanAttribute(std::string_view key) : Attribute(key, Boolean()) {}
 };
 
 /// An ordered list of attributes, as a handle to it: that of a node, or one of its own. Keys may differ in
 /// case only; the operations say whether they compare exactly. Costs are linear in the number of attributes.
-class Attributes {
+class ORL_HTML_API Attributes {
 public:
     /// A new, empty list.
     Attributes();

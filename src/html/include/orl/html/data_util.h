@@ -1,6 +1,7 @@
 #pragma once
 
 #include <orl/html/document.h>
+#include <orl/html/export.h>
 #include <orl/html/text_encoding.h>
 
 #include <cstddef>
@@ -13,7 +14,7 @@
 namespace orl::html {
 
 /// Reads a file line by line, a chunk of bytes at a time.
-class StreamReader {
+class ORL_HTML_API StreamReader {
 public:
     /// A file that cannot be opened fails with an IOException.
     explicit StreamReader(const std::filesystem::path &path, std::string_view delimiter = "\n",
@@ -40,7 +41,7 @@ private:
 };
 
 /// Pages in files.
-struct DataUtil {
+struct ORL_HTML_API DataUtil {
     /// The page in a file. A file that cannot be read fails with an IOException.
     static Document load(const std::filesystem::path &path, std::string_view baseUri,
                          const TextEncoding &encoding = {});

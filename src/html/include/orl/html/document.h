@@ -2,6 +2,7 @@
 
 #include <orl/html/element.h>
 #include <orl/html/elements.h>
+#include <orl/html/export.h>
 #include <orl/html/output_settings.h>
 
 #include <string>
@@ -13,7 +14,7 @@ namespace orl::html {
 enum class QuirksMode : unsigned char { noQuirks, quirks, limitedQuirks };
 
 /// The root of a page. Its tag is "#root" and its node name "#document".
-class Document : public Element {
+class ORL_HTML_API Document : public Element {
 public:
     /// Nothing; an empty document is `Document("")`.
     Document() = default;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <orl/html/export.h>
 #include <orl/html/node.h>
 #include <orl/html/tag.h>
 
@@ -11,12 +12,14 @@
 namespace orl::html {
 
 class Elements;
+class Evaluator;
 class FormElement;
+class Pattern;
 template<class Value>
 class OrderedSet;
 
 /// A node with a tag.
-class Element : public Node {
+class ORL_HTML_API Element : public Node {
 public:
     /// Nothing.
     Element() = default;
@@ -109,19 +112,28 @@ public:
     Elements getElementsByAttributeValueStarting(std::string_view key, std::string_view valuePrefix) const;
     Elements getElementsByAttributeValueEnding(std::string_view key, std::string_view valueSuffix) const;
     Elements getElementsByAttributeValueContaining(std::string_view key, std::string_view match) const;
+    /// The pattern is found in the value. A text that is no regular expression fails with "Pattern syntax
+    /// error: " and the text, of type SelectorParseException; the same holds below.
+    Elements getElementsByAttributeValueMatching(std::string_view key, const Pattern &pattern) const;
+    Elements getElementsByAttributeValueMatching(std::string_view key, std::string_view regex) const;
     Elements getElementsByIndexLessThan(std::ptrdiff_t index) const;
     Elements getElementsByIndexGreaterThan(std::ptrdiff_t index) const;
     Elements getElementsByIndexEquals(std::ptrdiff_t index) const;
     /// Whatever the case, in text() or in ownText().
     Elements getElementsContainingText(std::string_view searchText) const;
     Elements getElementsContainingOwnText(std::string_view searchText) const;
+    Elements getElementsMatchingText(const Pattern &pattern) const;
+    Elements getElementsMatchingText(std::string_view regex) const;
+    Elements getElementsMatchingOwnText(const Pattern &pattern) const;
+    Elements getElementsMatchingOwnText(std::string_view regex) const;
     Elements getAllElements() const;
 
-    /// The elements that a CSS selector matches. Only a tag name alone is understood yet; anything else fails
-    /// with "Could not parse query ", the query, ": unexpected token at " and the rest, of type
-    /// SelectorParseException.
+    /// Those that the selector matches; see QueryParser.
     Elements select(std::string_view cssQuery) const;
-
+    using Node::is;
+    /// Whether a selector, asked from the parent as root, matches this element; never without a parent.
+    bool is(std::string_view cssQuery) const;
+    bool is(const Evaluator &evaluator) const;
     /// A path of tags and classes that leads to this element and no other, from the nearest element with an
     /// id or from the top.
     std::string cssSelector() const;
@@ -172,7 +184,7 @@ public:
 };
 
 /// A form, which knows the controls that belong to it wherever they stand. It keeps them alive.
-class FormElement : public Element {
+class ORL_HTML_API FormElement : public Element {
 public:
     FormElement() = default;
     FormElement(const Tag &tag, std::string_view baseUri);

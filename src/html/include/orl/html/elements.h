@@ -1,6 +1,7 @@
 #pragma once
 
 #include <orl/html/element.h>
+#include <orl/html/export.h>
 #include <orl/html/ordered_set.h>
 
 #include <cstddef>
@@ -16,7 +17,7 @@ namespace orl::html {
 ///
 /// Operations on "each" run over the entries in order and give the list back. They stop at the first entry
 /// that fails, with its failure; the entries before it stay changed.
-class Elements {
+class ORL_HTML_API Elements {
 public:
     using value_type = Element;
     using const_iterator = std::vector<Element>::const_iterator;
@@ -63,6 +64,13 @@ public:
     const Elements &empty() const;
     /// Out of their tree; they stay in the list.
     const Elements &remove() const;
+
+    /// What the selector matches from each entry as root, each element once.
+    Elements select(std::string_view query) const;
+    /// The entries that select(query) does not find. `not` itself is a word of the language.
+    Elements not_(std::string_view query) const;
+    /// Whether any entry is(query).
+    bool is(std::string_view query) const;
 
     /// A list of the entry at this place, empty if there is none.
     Elements eq(std::size_t index) const;

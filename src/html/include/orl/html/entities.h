@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orl/html/export.h>
+
 #include <array>
 #include <cstddef>
 #include <optional>
@@ -12,7 +14,7 @@ namespace orl::html {
 class OutputSettings;
 
 /// One name of a character reference, without "&" and ";".
-struct NamedCodepoint {
+struct ORL_HTML_API NamedCodepoint {
     char32_t scalar;
     std::string_view name;
 
@@ -20,11 +22,11 @@ struct NamedCodepoint {
 };
 
 /// The named characters of HTML, and the escaping and unescaping of text with them.
-class Entities {
+class ORL_HTML_API Entities {
 public:
     /// A set of names that escaping may use. The three sets exist once in the process; each is loaded when it
     /// is first looked into and may then be read from any thread.
-    class EscapeMode {
+    class ORL_HTML_API EscapeMode {
     public:
         /// The four names of XML.
         static const EscapeMode &xhtml();

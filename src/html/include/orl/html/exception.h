@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orl/html/export.h>
+
 #include <exception>
 #include <string>
 
@@ -14,10 +16,10 @@ enum class ExceptionType {
     SelectorParseException,
 };
 
-struct Exception {
+struct ORL_HTML_API Exception {
     /// The only error that the engine raises. A failed operation leaves the tree as it was unless it says
     /// otherwise.
-    class Error : public std::exception {
+    class ORL_HTML_API Error : public std::exception {
     public:
         Error(ExceptionType errorType, std::string message) : type(errorType), Message(std::move(message)) {}
 

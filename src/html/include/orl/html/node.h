@@ -26,6 +26,7 @@
 
 #include <orl/html/attributes.h>
 #include <orl/html/exception.h>
+#include <orl/html/export.h>
 
 #include <cstddef>
 #include <functional>
@@ -46,7 +47,7 @@ class Element;
 class NodeVisitor;
 class StringBuilder;
 
-class Node {
+class ORL_HTML_API Node {
 public:
     /// Nothing.
     Node() = default;
@@ -205,7 +206,7 @@ private:
 };
 
 /// Sees each node of a walk when it is entered and when it is left; `depth` is 0 for the node where it began.
-class NodeVisitor {
+class ORL_HTML_API NodeVisitor {
 public:
     virtual ~NodeVisitor() = default;
     virtual void head(const Node &node, int depth) = 0;
@@ -213,7 +214,7 @@ public:
 };
 
 /// A depth-first walk.
-class NodeTraversor {
+class ORL_HTML_API NodeTraversor {
 public:
     explicit NodeTraversor(NodeVisitor &visitor) : visitor_(&visitor) {}
     void traverse(const Node &root) const;
@@ -222,7 +223,7 @@ private:
     NodeVisitor *visitor_;
 };
 
-class TextNode : public Node {
+class ORL_HTML_API TextNode : public Node {
 public:
     TextNode() = default;
     TextNode(std::string_view text, std::string_view baseUri);
@@ -244,7 +245,7 @@ public:
 };
 
 /// What stands in a script or style element, printed as it is.
-class DataNode : public Node {
+class ORL_HTML_API DataNode : public Node {
 public:
     DataNode() = default;
     DataNode(std::string_view data, std::string_view baseUri);
@@ -258,7 +259,7 @@ public:
     static bool isKindOf(const core::NodeRec *record);
 };
 
-class Comment : public Node {
+class ORL_HTML_API Comment : public Node {
 public:
     Comment() = default;
     Comment(std::string_view data, std::string_view baseUri);
@@ -272,7 +273,7 @@ public:
 };
 
 /// Its parts are the attributes "name", "publicId", "systemId" and, where it is given, "pubSysKey".
-class DocumentType : public Node {
+class ORL_HTML_API DocumentType : public Node {
 public:
     DocumentType() = default;
     DocumentType(std::string_view name, std::string_view publicId, std::string_view systemId,
@@ -289,7 +290,7 @@ public:
 
 /// Prints its name and attributes between two marks: "!" on both sides if it is a processing instruction and
 /// "?" if it is not, as in `<?xml version="1.0"?>`.
-class XmlDeclaration : public Node {
+class ORL_HTML_API XmlDeclaration : public Node {
 public:
     XmlDeclaration() = default;
     XmlDeclaration(std::string_view name, std::string_view baseUri, bool isProcessingInstruction);

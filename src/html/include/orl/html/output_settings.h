@@ -1,6 +1,7 @@
 #pragma once
 
 #include <orl/html/entities.h>
+#include <orl/html/export.h>
 #include <orl/html/text_encoding.h>
 
 #include <string_view>
@@ -8,7 +9,7 @@
 namespace orl::html {
 
 /// How a document is printed. Setters return the settings, so that they can be chained.
-class OutputSettings {
+class ORL_HTML_API OutputSettings {
 public:
     enum class Syntax {
         html, ///< empty elements have no end, boolean attributes no value

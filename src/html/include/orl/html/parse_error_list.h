@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orl/html/export.h>
+
 #include <cstddef>
 #include <string>
 #include <utility>
@@ -8,7 +10,7 @@
 namespace orl::html {
 
 /// One thing in a page that is not as the HTML standard wants it. The page is parsed all the same.
-class ParseError {
+class ORL_HTML_API ParseError {
 public:
     ParseError(std::size_t pos, std::string errorMsg) : pos_(pos), errorMsg_(std::move(errorMsg)) {}
 
@@ -27,7 +29,7 @@ private:
 
 /// The first errors of a page, up to a limit; beyond it, and always without tracking, not even a message is
 /// made.
-class ParseErrorList {
+class ORL_HTML_API ParseErrorList {
 public:
     ParseErrorList(std::size_t initialCapacity, std::size_t maxSize)
         : maxSize_(maxSize), initialCapacity_(initialCapacity) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orl/html/export.h>
+
 #include <string>
 #include <string_view>
 
@@ -8,7 +10,7 @@ namespace orl::html {
 class Attributes;
 
 /// Whether names keep the case in which the page spells them.
-class ParseSettings {
+class ORL_HTML_API ParseSettings {
 public:
     /// As HTML wants it: names in lower case.
     static const ParseSettings htmlDefault;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <orl/html/document.h>
+#include <orl/html/export.h>
 #include <orl/html/parse_error_list.h>
 #include <orl/html/parse_settings.h>
 
@@ -19,7 +20,7 @@ class TreeBuilder;
 /// page; a page must be shorter than 2 GiB, or an IllegalArgumentException says so.
 ///
 /// A parser is used by one thread at a time; different ones are independent.
-class Parser {
+class ORL_HTML_API Parser {
 public:
     // ---- Without errors being recorded, with HTML's settings.
 
@@ -71,8 +72,8 @@ private:
 };
 
 /// Parser::parse and the like, by short names. Without a base URI relative addresses stay unresolved.
-Document parse(std::string_view html, std::string_view baseUri = {});
-Document parse(std::string_view html, std::string_view baseUri, Parser &parser);
-Document parseBodyFragment(std::string_view bodyHtml, std::string_view baseUri = {});
+ORL_HTML_API Document parse(std::string_view html, std::string_view baseUri = {});
+ORL_HTML_API Document parse(std::string_view html, std::string_view baseUri, Parser &parser);
+ORL_HTML_API Document parseBodyFragment(std::string_view bodyHtml, std::string_view baseUri = {});
 
 } // namespace orl::html

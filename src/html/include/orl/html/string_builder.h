@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orl/html/export.h>
+
 #include <charconv>
 #include <concepts>
 #include <cstddef>
@@ -12,7 +14,7 @@
 namespace orl::html {
 
 /// Gathers pieces of text and joins them when the text is asked for.
-class StringBuilder {
+class ORL_HTML_API StringBuilder {
 public:
     StringBuilder() = default;
     explicit StringBuilder(std::string_view text) { append(text); }

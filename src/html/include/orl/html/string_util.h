@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orl/html/export.h>
+
 #include <cstddef>
 #include <span>
 #include <string>
@@ -10,7 +12,7 @@ namespace orl::html {
 class StringBuilder;
 
 /// White space here is blank, tab, line feed, form feed and carriage return.
-struct StringUtil {
+struct ORL_HTML_API StringUtil {
     /// So many blanks; "" below 1.
     static std::string padding(int width);
     /// Empty, or all white space.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orl/html/export.h>
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -14,7 +16,7 @@ struct TagRec;
 
 /// What a tag name means. The tags of HTML stand in a registry that is the same for the whole process; every
 /// other name is a tag that may hold blocks but is none.
-class Tag {
+class ORL_HTML_API Tag {
 public:
     /// The registered tag of this name, tried as it is and then as the settings normalise it, or a new tag. A
     /// name that normalises to "" fails with "String must not be empty".

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <orl/html/export.h>
+
 #include <memory>
 #include <optional>
 #include <string>
@@ -9,7 +11,7 @@ namespace orl::html {
 
 /// The encoding that a page is going to be written in; it decides which characters need a reference. Texts in
 /// memory are UTF-8 whatever it says.
-class TextEncoding {
+class ORL_HTML_API TextEncoding {
 public:
     /// UTF-8.
     TextEncoding() = default;

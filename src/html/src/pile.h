@@ -1,0 +1,53 @@
+// A list of plain records that is emptied and filled again all the time.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <type_traits>
+#include <utility>
+
+namespace orl::html::core {
+
+/// Like a vector, but emptying it is one store and no branch.
+template<class T>
+class Pile {
+    static_assert(std::is_trivially_copyable_v<T> && std::is_trivially_destructible_v<T>);
+
+public:
+    Pile() = default;
+    Pile(const Pile &) = delete;
+    Pile &operator=(const Pile &) = delete;
+
+    void clear() { size_ = 0; }
+    void push_back(const T &record) {
+        if (size_ == capacity_) [[unlikely]]
+            grow();
+        records_[size_++] = record;
+    }
+
+    std::size_t size() const { return size_; }
+    bool empty() const { return size_ == 0; }
+    const T *data() const { return records_.get(); }
+    T &operator[](std::size_t place) { return records_[place]; }
+    const T &operator[](std::size_t place) const { return records_[place]; }
+    const T *begin() const { return records_.get(); }
+    const T *end() const { return records_.get() + size_; }
+
+private:
+    void grow();
+
+    std::unique_ptr<T[]> records_;
+    std::size_t size_ = 0, capacity_ = 0;
+};
+
+template<class T>
+void Pile<T>::grow() {
+    const std::size_t capacity = capacity_ ? 2 * capacity_ : 16;
+    std::unique_ptr<T[]> larger(new T[capacity]);
+    for (std::size_t i = 0; i < size_; ++i)
+        larger[i] = records_[i];
+    records_ = std::move(larger);
+    capacity_ = capacity;
+}
+
+} // namespace orl::html::core

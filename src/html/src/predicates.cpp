@@ -1,0 +1,284 @@
+// The predicates that look at one element: its names, attributes, place and text.
+#include "attr_value.h"
+#include "class_match.h"
+#include "columns.h"
+#include "orl/html/evaluator.h"
+#include "pattern_search.h"
+#include "predicate.h"
+#include "text.h"
+#include "text_index.h"
+#include "tree.h"
+#include "utf8.h"
+
+#include <algorithm>
+
+namespace orl::html {
+
+using namespace core;
+
+namespace {
+
+constexpr Traits costly{.cheap = false};
+
+} // namespace
+
+// ---- Names
+
+namespace {
+
+/// A predicate that looks at nothing but the tag, or nothing but the "class" attribute, so that a column of
+/// it can answer.
+template<class Test>
+class ColumnPredicate final : public Predicate {
+public:
+    using Numbers = std::vector<std::uint32_t> Columns::*;
+    using Examples = std::vector<const NodeRec *> Columns::*;
+
+    ColumnPredicate(Numbers numbers, Examples examples, Test test)
+        : Predicate({}), numbers_(numbers), examples_(examples), test_(std::move(test)) {}
+
+    bool holds(NodeRec *element) override { return test_(element); }
+    Found findIn(NodeRec *top) override {
+        return findInColumn(top, numbers_, examples_,
+                            [this](const NodeRec *element) { return test_(element); });
+    }
+
+private:
+    Numbers numbers_;
+    Examples examples_;
+    Test test_;
+};
+
+template<class Test>
+PredicatePtr makeTagTest(Test test) {
+    return std::make_unique<ColumnPredicate<Test>>(&Columns::tags, &Columns::tagExamples, std::move(test));
+}
+
+template<class Test>
+PredicatePtr makeClassTest(Test test) {
+    return std::make_unique<ColumnPredicate<Test>>(&Columns::classes, &Columns::classExamples,
+                                                   std::move(test));
+}
+
+} // namespace
+
+PredicatePtr Evaluator::Tag::compile(Scope &) const {
+    return makeTagTest(
+        [name = TagName(tagNameNormal_)](const NodeRec *element) { return name.isOf(element); });
+}
+
+PredicatePtr Evaluator::TagEndsWith::compile(Scope &) const {
+    return makeTagTest([this](const NodeRec *element) { return tagOf(element)->name().ends_with(tagName_); });
+}
+
+PredicatePtr Evaluator::Class::compile(Scope &) const {
+    return makeClassTest(
+        [name = ClassName(className_)](const NodeRec *element) { return name.isIn(element); });
+}
+
+PredicatePtr Evaluator::Id::compile(Scope &) const {
+    return makeLeaf([this](const NodeRec *element) { return idOf(element) == id_; });
+}
+
+// ---- Attributes
+
+PredicatePtr Evaluator::Attribute::compile(Scope &) const {
+    return makeLeaf([reader = AttrReader(key_)](NodeRec *element) { return reader.isOn(element); });
+}
+
+PredicatePtr Evaluator::AttributeStarting::compile(Scope &) const {
+    return makeLeaf([this](const NodeRec *element) {
+        return std::ranges::any_of(attrBlock(element), [this](const AttrRec &entry) {
+            const auto *name = at<NameRec>(entry.target().name);
+            return at<NameRec>(name->lower)->name().starts_with(keyPrefix_);
+        });
+    });
+}
+
+namespace {
+
+/// `compare` gets the attribute's value and the evaluator's.
+template<class Compare>
+PredicatePtr makeComparison(const Evaluator::AttributeKeyPair &evaluator, Compare compare) {
+    return makeLeaf([reader = AttrReader(evaluator.key()), &evaluator, compare](NodeRec *element) {
+        return reader.holds(element, [&](std::string_view text) { return compare(text, evaluator.value()); });
+    });
+}
+
+} // namespace
+
+PredicatePtr Evaluator::AttributeWithValue::compile(Scope &) const {
+    return makeComparison(*this, [](std::string_view text, std::string_view wanted) {
+        return equalsLower(trimmed(text), wanted);
+    });
+}
+
+PredicatePtr Evaluator::AttributeWithValueNot::compile(Scope &) const {
+    return makeLeaf([reader = AttrReader(key()), this](NodeRec *element) {
+        if (!reader.isOn(element)) return !value().empty();
+        return !reader.holds(element, [this](std::string_view text) { return equalsLower(text, value()); });
+    });
+}
+
+PredicatePtr Evaluator::AttributeWithValueStarting::compile(Scope &) const {
+    return makeComparison(*this, startsWithLower);
+}
+
+PredicatePtr Evaluator::AttributeWithValueEnding::compile(Scope &) const {
+    return makeComparison(*this, endsWithLower);
+}
+
+PredicatePtr Evaluator::AttributeWithValueContaining::compile(Scope &) const {
+    return makeComparison(*this, containsLower);
+}
+
+PredicatePtr Evaluator::AttributeWithValueMatching::compile(Scope &) const {
+    const auto search = std::make_shared<PatternSearch>(pattern_);
+    return makeLeaf(
+        [reader = AttrReader(key_), search](NodeRec *element) {
+            return reader.holds(element, [&](std::string_view text) { return search->isFoundIn(text); });
+        },
+        costly);
+}
+
+// ---- Places
+
+PredicatePtr Evaluator::AllElements::compile(Scope &) const {
+    return makeLeaf([](const NodeRec *) { return true; });
+}
+
+PredicatePtr Evaluator::IndexLessThan::compile(Scope &scope) const {
+    return makeLeaf([this, &scope](NodeRec *element) {
+        return std::ptrdiff_t(scope.places.among(element).index) < index();
+    });
+}
+
+PredicatePtr Evaluator::IndexGreaterThan::compile(Scope &scope) const {
+    return makeLeaf([this, &scope](NodeRec *element) {
+        return std::ptrdiff_t(scope.places.among(element).index) > index();
+    });
+}
+
+PredicatePtr Evaluator::IndexEquals::compile(Scope &scope) const {
+    return makeLeaf([this, &scope](NodeRec *element) {
+        return std::ptrdiff_t(scope.places.among(element).index) == index();
+    });
+}
+
+namespace {
+
+bool isChildOfElement(const NodeRec *element) {
+    const NodeRec *above = parentOf(element);
+    return above && kindOf(above) != Kind::Document;
+}
+
+/// Whether the place, counted from 1, is one of `b`, `b + a`, `b + 2a`...
+bool isNth(std::ptrdiff_t place, std::ptrdiff_t a, std::ptrdiff_t b) {
+    if (a == 0) return place == b;
+    const std::ptrdiff_t past = place - b;
+    return (past >= 0) == (a > 0) ? past % a == 0 : past == 0;
+}
+
+/// `position` gives the place of an element, counted from 1.
+template<class Position>
+PredicatePtr makeNth(const Evaluator::CssNthEvaluator &nth, Position position) {
+    return makeLeaf([position, a = nth.a(), b = nth.b()](NodeRec *element) {
+        return isChildOfElement(element) && isNth(position(element), a, b);
+    });
+}
+
+} // namespace
+
+PredicatePtr Evaluator::IsNthChild::compile(Scope &scope) const {
+    return makeNth(
+        *this, [&scope](NodeRec *element) { return std::ptrdiff_t(scope.places.among(element).index) + 1; });
+}
+
+PredicatePtr Evaluator::IsNthLastChild::compile(Scope &scope) const {
+    return makeNth(*this, [&scope](NodeRec *element) {
+        const auto place = scope.places.among(element);
+        return std::ptrdiff_t(place.count) - std::ptrdiff_t(place.index);
+    });
+}
+
+PredicatePtr Evaluator::IsNthOfType::compile(Scope &scope) const {
+    return makeNth(*this, [&scope](NodeRec *element) {
+        return std::ptrdiff_t(scope.places.amongType(element).index) + 1;
+    });
+}
+
+PredicatePtr Evaluator::IsNthLastOfType::compile(Scope &scope) const {
+    return makeNth(*this, [&scope](NodeRec *element) {
+        const auto place = scope.places.amongType(element);
+        return std::ptrdiff_t(place.count) - std::ptrdiff_t(place.index);
+    });
+}
+
+PredicatePtr Evaluator::IsFirstChild::compile(Scope &) const {
+    return makeLeaf(
+        [](const NodeRec *element) { return isChildOfElement(element) && !previousElement(element); });
+}
+
+PredicatePtr Evaluator::IsLastChild::compile(Scope &scope) const {
+    return makeLeaf([&scope](NodeRec *element) {
+        // As no place among elements is above that among nodes, only the last node can be meant.
+        if (nextSibling(element) || !isChildOfElement(element)) return false;
+        return scope.places.among(element).index + 1 == childCount(parentOf(element));
+    });
+}
+
+PredicatePtr Evaluator::IsOnlyChild::compile(Scope &scope) const {
+    return makeLeaf([&scope](NodeRec *element) {
+        return isChildOfElement(element) && scope.places.among(element).count == 1;
+    });
+}
+
+PredicatePtr Evaluator::IsOnlyOfType::compile(Scope &scope) const {
+    return makeLeaf([&scope](NodeRec *element) {
+        return isChildOfElement(element) && scope.places.amongType(element).count == 1;
+    });
+}
+
+PredicatePtr Evaluator::IsRoot::compile(Scope &scope) const {
+    return makeLeaf(
+        [&scope](const NodeRec *element) {
+            const NodeRec *root = scope.root;
+            const bool isPage = root && kindOf(root) == Kind::Document;
+            return element == (isPage ? firstElement(root) : root);
+        },
+        {.growing = false, .reach = 1});
+}
+
+PredicatePtr Evaluator::IsEmpty::compile(Scope &) const {
+    return makeLeaf(
+        [](const NodeRec *element) {
+            for (const NodeRec *node = firstChild(element); node; node = nextSibling(node))
+                if (kindOf(node) < Kind::Comment) return false;
+            return true;
+        },
+        costly);
+}
+
+// ---- Text
+
+PredicatePtr Evaluator::ContainsText::compile(Scope &scope) const {
+    return std::make_unique<TextPredicate>(searchText_, scope);
+}
+
+PredicatePtr Evaluator::ContainsOwnText::compile(Scope &) const {
+    return makeLeaf([this](const NodeRec *element) { return containsLower(ownTextOf(element), searchText_); },
+                    costly);
+}
+
+PredicatePtr Evaluator::Matches::compile(Scope &) const {
+    const auto search = std::make_shared<PatternSearch>(pattern_);
+    return makeLeaf([search](const NodeRec *element) { return search->isFoundIn(textOf(element)); }, costly);
+}
+
+PredicatePtr Evaluator::MatchesOwn::compile(Scope &) const {
+    const auto search = std::make_shared<PatternSearch>(pattern_);
+    return makeLeaf([search](const NodeRec *element) { return search->isFoundIn(ownTextOf(element)); },
+                    costly);
+}
+
+} // namespace orl::html
