@@ -3,6 +3,8 @@
 #include "numbers/gradients.h"
 #include "screens/gradient_ink.h"
 
+#include <algorithm>
+
 namespace orl {
 
 namespace {
@@ -23,6 +25,25 @@ const GradientPair &pairOf(const QString &name) {
     return gradientPairs[sum % gradientPairs.size()];
 }
 
+GradientInk inkOf(const QColor &light, const QColor &dark) {
+    return gradientInk(light, dark, middleFrom, middleTo);
+}
+
+/// The inks of the gradient pairs, worked out once: lists ask for a face each time that they are refreshed.
+GradientInk inkOf(const Color &light, const Color &dark) {
+    static const auto inks = [] {
+        std::array<GradientInk, gradientPairs.size()> all;
+        std::transform(gradientPairs.begin(), gradientPairs.end(), all.begin(),
+                       [](const GradientPair &pair) { return inkOf(colour(pair.light), colour(pair.dark)); });
+        return all;
+    }();
+    const auto pair = std::find_if(gradientPairs.begin(), gradientPairs.end(), [&](const GradientPair &one) {
+        return one.light == light && one.dark == dark;
+    });
+    if (pair == gradientPairs.end()) return inkOf(colour(light), colour(dark));
+    return inks[size_t(pair - gradientPairs.begin())];
+}
+
 } // namespace
 
 AvatarFace avatarFace(const SMSSender &sender) {
@@ -30,9 +51,11 @@ AvatarFace avatarFace(const SMSSender &sender) {
     AvatarFace face;
     face.picture = sender.icon.value_or(QString());
     face.letters = sender.iconText.value_or(iconText(sender.name)).trimmed();
-    face.light = colour(sender.light.value_or(pair.light));
-    face.dark = colour(sender.dark.value_or(pair.dark));
-    const GradientInk ink = gradientInk(face.light, face.dark, middleFrom, middleTo);
+    const Color light = sender.light.value_or(pair.light);
+    const Color dark = sender.dark.value_or(pair.dark);
+    face.light = colour(light);
+    face.dark = colour(dark);
+    const GradientInk ink = inkOf(light, dark);
     face.ink = ink.text;
     face.veil = ink.veil;
     return face;

@@ -3,16 +3,13 @@
 #include "config/internet_view_model.h"
 #include "numbers/moments.h"
 #include "numbers/request_view_model.h"
-#include "platform/browser.h"
 #include "platform/clock.h"
 #include "screens/copy_view_model.h"
 #include "screens/gradient_ink.h"
+#include "screens/message_text.h"
 #include "screens/text_helpers.h"
 
-#include <QDateTime>
-#include <QUrl>
-
-#include <algorithm>
+#include <QPointer>
 
 namespace orl {
 
@@ -28,28 +25,6 @@ GradientInk cardInkOn() {
     return gradientInk(colour(cardPair.light), colour(cardPair.dark), 0, 1);
 }
 
-bool isAd(const Message &message) {
-    return message.sender.name.toLower() == QStringLiteral("nativead");
-}
-bool isAd(const SMSSender &sender) {
-    return sender.name == QStringLiteral("native_ad");
-}
-
-/// Every fetch makes new records of the messages on the page; this tells which of them are the same message.
-QString keyOf(const Message &message) {
-    const QString moment = message.time.value_or(QString());
-    return QStringList{message.sender.name, moment, message.content}.join(QChar(0x1e));
-}
-
-std::optional<double> momentOf(const Message &message) {
-    return message.time ? messageMoment(*message.time) : message.timeDateForTPN;
-}
-
-QString clockTime(const std::optional<double> &moment) {
-    if (!moment) return {};
-    return QDateTime::fromMSecsSinceEpoch(qint64(*moment * 1000)).toString(QStringLiteral("HH:mm"));
-}
-
 } // namespace
 
 HomeView::HomeView(Process &process, RequestViewModel &request, InternetViewModel &internet,
@@ -59,19 +34,23 @@ HomeView::HomeView(Process &process, RequestViewModel &request, InternetViewMode
       request_(request),
       internet_(internet),
       copy_(copy),
-      messages_({"sender", "content", "age", "exports", "face"}),
-      senders_({"name", "content", "time", "unread", "face"}),
+      senders_(request),
+      // The same sender must wear the same colours in both layouts.
+      messages_(process,
+                [this](const SMSSender &sender) {
+                    const SMSSender *listed = senders_.named(sender.name);
+                    return listed ? *listed : sender;
+                }),
       choice_(process, request) {
     connect(&request_, &RequestViewModel::currentCountryChanged, this, &HomeView::numberChanged);
     connect(&request_, &RequestViewModel::currentNumberChanged, this, &HomeView::changeNumber);
-    connect(&request_, &RequestViewModel::messagesChanged, this, &HomeView::rebuildCards);
-    connect(&request_, &RequestViewModel::sendersChanged, this, &HomeView::showSendersList);
+    connect(&request_, &RequestViewModel::messagesChanged, this, &HomeView::showMessages);
+    connect(&request_, &RequestViewModel::sendersChanged, this, &HomeView::listSenders);
     connect(&request_, &RequestViewModel::currentCountryNumbersChanged, this, &HomeView::showSimilar);
     connect(&request_, &RequestViewModel::lastFetchSucceededAtChanged, this, &HomeView::noteFetch);
     connect(&internet_, &InternetViewModel::isConnectedChanged, this, &HomeView::stateChanged);
     timer_ = process_.platform().mainQueue.every(tick, [this] { fetchOnTick(); });
-    rebuildCards();
-    showSendersList();
+    showMessages();
     showSimilar();
 }
 
@@ -147,6 +126,14 @@ void HomeView::appear() {
     internet_.checkConnection();
     setIsOffline(!internet_.isConnected());
     if (!isOffline_ && request_.messages().isEmpty()) request_.fetchMessages();
+    process_.platform().mainQueue.postAfter(inlineBannerAfter, [self = QPointer(this)] {
+        if (self) self->setShowINBaner(true);
+    });
+}
+
+void HomeView::setShowINBaner(bool shown) {
+    showINBaner_ = shown;
+    Q_EMIT showINBanerChanged();
 }
 
 void HomeView::fetchOnTick() {
@@ -180,56 +167,16 @@ void HomeView::setIsOffline(bool offline) {
     Q_EMIT isOfflineChanged();
 }
 
-void HomeView::rebuildCards() {
-    cards_.clear();
-    for (const Message &message : request_.messages()) {
-        if (isAd(message)) continue;
-        cards_.push_back(std::make_unique<MessageCardView>(process_, message));
-        connect(cards_.back().get(), &MessageCardView::ageChanged, this,
-                [this, card = cards_.size() - 1] { showAge(card); });
-    }
-    showSendersList();
+void HomeView::showMessages() {
+    listSenders();
+    messages_.show(request_.messages());
     Q_EMIT stateChanged();
 }
 
-void HomeView::showMessages() {
-    QList<KeyedListModel::Row> rows;
-    for (const auto &card : cards_) {
-        const SMSSender &sender = card->message().sender;
-        rows << KeyedListModel::Row{keyOf(card->message()),
-                                    {sender.name, card->content(), card->age(), card->messagesExports(),
-                                     QVariant::fromValue(avatarFace(listedSender(sender)))}};
-    }
-    messages_.setRows(rows);
-}
-
-void HomeView::showAge(size_t card) {
-    messages_.setValue(messages_.key(int(card)), "age", cards_[card]->age());
-}
-
-/// The same sender must wear the same colours in both layouts.
-SMSSender HomeView::listedSender(const SMSSender &sender) const {
-    const auto &listed = request_.senders();
-    const auto found = std::find_if(listed.begin(), listed.end(),
-                                    [&](const SMSSender &other) { return other.name == sender.name; });
-    return found == listed.end() ? sender : *found;
-}
-
-void HomeView::showSendersList() {
-    QList<KeyedListModel::Row> rows;
-    // Senders outlive the messages they came with; without messages nothing is listed.
-    const QList<SMSSender> listed = request_.messages().isEmpty() ? QList<SMSSender>() : request_.senders();
-    for (const SMSSender &sender : listed) {
-        if (isAd(sender) || sender.messages.isEmpty()) continue;
-        const Message &newest = sender.messages.front();
-        const QString unread = QString::number(request_.unseenCount(sender).value_or(0));
-        rows << KeyedListModel::Row{
-            sender.name,
-            {sender.name, QString(newest.content).replace(QChar(0x2028), u' '), clockTime(momentOf(newest)),
-             unread == QStringLiteral("0") ? QString() : unread, QVariant::fromValue(avatarFace(sender))}};
-    }
-    senders_.setRows(rows);
-    showMessages();
+/// Senders outlive the messages they came with; without messages nothing is listed.
+void HomeView::listSenders() {
+    senders_.show(request_.messages().isEmpty() ? QList<SMSSender>() : request_.senders());
+    messages_.facesChanged();
 }
 
 void HomeView::showSimilar() {
@@ -242,10 +189,13 @@ void HomeView::showSimilar() {
 }
 
 void HomeView::tapExport(const QString &entry) {
-    if (!entry.contains(QStringLiteral("http")))
-        copy_.copy(entry);
-    else if (const QUrl url(entry, QUrl::StrictMode); url.isValid())
-        process_.platform().browser.open(url);
+    orl::tapExport(entry, process_, copy_);
+}
+
+void HomeView::tapSender(int row) {
+    if (row < 0 || row >= senders_.count()) return;
+    request_.setSelectedConversation(senders_.at(row));
+    request_.setConversation_isPresented(true);
 }
 
 void HomeView::tapSimilar(int row) {

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "screens/avatar_face.h"
 #include "screens/country_screen.h"
-#include "screens/message_card_view.h"
-
-#include <vector>
+#include "screens/message_cards.h"
+#include "screens/sender_cards.h"
 
 namespace orl {
 
@@ -27,8 +25,10 @@ class HomeView : public QObject {
     Q_PROPERTY(bool isOffline READ isOffline NOTIFY isOfflineChanged)
     Q_PROPERTY(QString fetchAge READ fetchAge NOTIFY fetchAgeChanged)
     Q_PROPERTY(bool bySender READ bySender NOTIFY messagesStackTypeChanged)
-    Q_PROPERTY(orl::KeyedListModel *messages READ messages CONSTANT)
-    Q_PROPERTY(orl::KeyedListModel *senders READ senders CONSTANT)
+    Q_PROPERTY(bool allowManualRefresh READ allowManualRefresh NOTIFY fetchAgeChanged)
+    Q_PROPERTY(bool showINBaner READ showINBaner NOTIFY showINBanerChanged)
+    Q_PROPERTY(orl::MessageCards *messages READ messages CONSTANT)
+    Q_PROPERTY(orl::SenderCards *senders READ senders CONSTANT)
     Q_PROPERTY(orl::KeyedListModel *similar READ similar CONSTANT)
     Q_PROPERTY(orl::NumberChoice *choice READ choice CONSTANT)
     Q_PROPERTY(bool countriesPresented READ countriesPresented NOTIFY countriesPresentedChanged)
@@ -39,6 +39,7 @@ public:
 
     static constexpr std::chrono::seconds tick{10};
     static constexpr double fetchIsOldAfter = 60; ///< seconds
+    static constexpr std::chrono::seconds inlineBannerAfter{3};
 
     HomeView(Process &process, RequestViewModel &request, InternetViewModel &internet, CopyViewModel &copy,
              QObject *parent = nullptr);
@@ -69,6 +70,10 @@ public:
     bool isOffline() const { return isOffline_; }
     /// How long ago the messages were last read, once that is more than a minute; empty otherwise.
     QString fetchAge() const;
+    /// Whether the messages are so old that the user may ask for them himself.
+    bool allowManualRefresh() const { return !fetchAge().isEmpty(); }
+    /// Whether an inline banner may stand above the messages.
+    bool showINBaner() const { return showINBaner_; }
 
     MessageStackType messagesStackType() const { return messagesStackType_; }
     void setMessagesStackType(MessageStackType type);
@@ -76,8 +81,8 @@ public:
     Q_INVOKABLE void showRecent() { setMessagesStackType(MessageStackType::RECENT); }
     Q_INVOKABLE void showSenders() { setMessagesStackType(MessageStackType::SENDERS); }
 
-    KeyedListModel *messages() { return &messages_; }
-    KeyedListModel *senders() { return &senders_; }
+    MessageCards *messages() { return &messages_; }
+    SenderCards *senders() { return &senders_; }
     KeyedListModel *similar() { return &similar_; }
     NumberChoice *choice() { return &choice_; }
 
@@ -87,6 +92,8 @@ public:
     Q_INVOKABLE void dismissOffline() { setIsOffline(false); }
     /// Opens a link, copies anything else.
     Q_INVOKABLE void tapExport(const QString &entry);
+    /// Opens the conversation with the sender of a row.
+    Q_INVOKABLE void tapSender(int row);
     Q_INVOKABLE void tapSimilar(int row);
 
 Q_SIGNALS:
@@ -94,6 +101,7 @@ Q_SIGNALS:
     void stateChanged();
     void isOfflineChanged();
     void fetchAgeChanged();
+    void showINBanerChanged();
     void messagesStackTypeChanged();
     void countriesChanged(); ///< told ahead of countriesPresentedChanged
     void countriesPresentedChanged();
@@ -103,13 +111,11 @@ private:
     void noteFetch();
     void fetchOnTick();
     void setIsOffline(bool offline);
+    void setShowINBaner(bool shown);
     void setTryAgain(const QUuid &signal);
-    void rebuildCards();
     void showMessages();
-    void showSendersList();
+    void listSenders();
     void showSimilar();
-    void showAge(size_t card);
-    SMSSender listedSender(const SMSSender &sender) const;
 
     Process &process_;
     RequestViewModel &request_;
@@ -120,9 +126,9 @@ private:
     MessageStackType messagesStackType_ = MessageStackType::RECENT;
     bool fetched_ = false; ///< a page was read since the number became the current one
     bool countriesPresented_ = false;
-    std::vector<std::unique_ptr<MessageCardView>> cards_;
-    KeyedListModel messages_;
-    KeyedListModel senders_;
+    bool showINBaner_ = false;
+    SenderCards senders_;
+    MessageCards messages_;
     NumberRows similar_;
     NumberChoice choice_;
     std::unique_ptr<CountriesView, QScopedPointerDeleteLater> countries_;

@@ -1,37 +1,29 @@
 #include "screens/message_card_view.h"
 
 #include "numbers/moments.h"
-#include "platform/clock.h"
-#include "screens/text_helpers.h"
+#include "screens/message_text.h"
 
 namespace orl {
 
-MessageCardView::MessageCardView(Process &process, Message message, QObject *parent)
-    : QObject(parent), process_(process), message_(std::move(message)) {
-    appear();
-    timer_ = process_.platform().mainQueue.every(tick, [this] {
-        if (!time_) return;
-        *time_ -= secondsPerTick;
-        Q_EMIT ageChanged();
-    });
-}
-
-void MessageCardView::appear() {
-    messagesExports_ = extractNumbers(shortestCode, message_.content);
-    if (const auto link = firstLink(message_.content)) messagesExports_ << *link;
-
-    if (message_.time)
-        time_ = messageMoment(*message_.time).value_or(process_.platform().clock.now() - unreadableAge);
-    else
-        time_ = message_.timeDateForTPN;
+MessageCardView::MessageCardView(Message message, double now) : message_(std::move(message)) {
+    time_ = momentOf(message_);
+    if (message_.time && !time_) time_ = now - unreadableAge;
 }
 
 QString MessageCardView::content() const {
-    return QString(message_.content).replace(QChar(0x2028), u' ');
+    return shownContent(message_);
 }
 
-QString MessageCardView::age() const {
-    return time_ ? relativeTime(*time_, process_.platform().clock.now()) : QString();
+QString MessageCardView::age(double now) const {
+    return time_ ? relativeTime(*time_, now) : QString();
+}
+
+QStringList MessageCardView::messagesExports() const {
+    return messageExports(message_.content);
+}
+
+void MessageCardView::tick() {
+    if (time_) *time_ -= secondsPerTick;
 }
 
 } // namespace orl

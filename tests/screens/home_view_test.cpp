@@ -1,3 +1,4 @@
+#include "screens/avatar_face.h"
 #include "screens/copy_view_model.h"
 #include "screens/home_view.h"
 #include "screens_phone.h"
@@ -72,7 +73,7 @@ TEST_F(HomeTest, SendersShowTheirNewestMessageAndWhatIsUnread) {
     EXPECT_EQ(test::texts(*home.senders(), "content"),
               (QStringList{QStringLiteral("new"), QStringLiteral("other")}));
     EXPECT_EQ(test::texts(*home.senders(), "time"), (QStringList{QStringLiteral("23:50"), QString()}));
-    EXPECT_EQ(test::texts(*home.senders(), "unread"),
+    EXPECT_EQ(test::texts(*home.senders(), "unseen"),
               (QStringList{QStringLiteral("2"), QStringLiteral("1")}));
 }
 
@@ -81,7 +82,7 @@ TEST_F(HomeTest, SameSenderWearsTheSameColoursInBothLayouts) {
                                {QStringLiteral("B"), QStringLiteral("2"), at},
                                {QStringLiteral("A"), QStringLiteral("3"), at},
                                {QStringLiteral("C"), QStringLiteral("4"), at}});
-    const auto face = [](const KeyedListModel *model, int row) {
+    const auto face = [](const KeyedRows *model, int row) {
         return model->value(row, "face").value<AvatarFace>();
     };
     EXPECT_EQ(face(home.messages(), 3), face(home.senders(), 2));

@@ -29,14 +29,14 @@ inline Country country(const QString &name, const QString &continent, const QStr
 }
 
 /// What a model shows in one role, from its first row to its last.
-inline QVariantList column(const KeyedListModel &model, const QByteArray &role) {
+inline QVariantList column(const KeyedRows &model, const QByteArray &role) {
     QVariantList values;
     for (int row = 0; row < model.count(); ++row)
         values << model.value(row, role);
     return values;
 }
 
-inline QStringList texts(const KeyedListModel &model, const QByteArray &role) {
+inline QStringList texts(const KeyedRows &model, const QByteArray &role) {
     QStringList values;
     for (const QVariant &value : column(model, role))
         values << value.toString();

@@ -75,7 +75,11 @@ Item {
     }
     Component {
         id: senderCard
-        SenderCard { width: ListView.view.width }
+        SenderCard {
+            required property int index
+            width: ListView.view.width
+            onClicked: root.view.tapSender(index)
+        }
     }
     NumberChoiceDialogs {
         anchors.fill: parent

@@ -51,26 +51,11 @@ Card {
             text: root.content
             Layout.fillWidth: true
         }
-        Words {
-            text: "Exported:"
-            color: Theme.secondary
-            font.pixelSize: Theme.secondarySize
-            visible: root.exports.length > 0
-            Layout.topMargin: Theme.space1
-        }
-        Flow {
-            spacing: Theme.space2
-            visible: root.exports.length > 0
+        ExportChips {
+            exports: root.exports
             Layout.fillWidth: true
-            Repeater {
-                model: root.exports
-                ExportChip {
-                    required property string modelData
-                    entry: modelData
-                    width: Math.min(implicitWidth, column.width)
-                    onClicked: root.exportTapped(entry)
-                }
-            }
+            Layout.topMargin: Theme.space1
+            onTapped: entry => root.exportTapped(entry)
         }
     }
 }

@@ -2,29 +2,24 @@ import QtQuick
 import QtQuick.Layouts
 import Orl.Screens
 
-// The messages of one sender in a row: who, the newest one, when, and how many are unread.
-Card {
+// The messages of one sender in a row: who, the last one, when, and how many are unseen. Opens the conversation.
+Pressable {
     id: root
     required property string name
     required property string content
     required property string time
-    required property string unread
+    required property string unseen
     required property avatarFace face
 
-    implicitHeight: row.implicitHeight + 2 * Theme.space3
-    Accessible.role: Accessible.ListItem
-    Accessible.name: name + ", " + time + ": " + content
-    Accessible.description: unread === "" ? "" : unread + " unread"
-
-    RowLayout {
-        id: row
-        anchors.left: parent.left
-        anchors.right: parent.right
-        anchors.verticalCenter: parent.verticalCenter
-        anchors.leftMargin: Theme.space4
-        anchors.rightMargin: Theme.space4
+    text: name + ", " + time + ": " + content
+    cornerRadius: Theme.cardRadius
+    padding: Theme.space3
+    leftPadding: Theme.space4
+    rightPadding: Theme.space4
+    Accessible.description: unseen === "" ? "" : unseen + " unread"
+    background: Card { down: root.down }
+    contentItem: RowLayout {
         spacing: Theme.space3
-
         Avatar { face: root.face }
         ColumnLayout {
             spacing: Theme.space1
@@ -37,11 +32,13 @@ Card {
                     elide: Text.ElideRight
                     wrapMode: Text.NoWrap
                     Layout.fillWidth: true
+                    Accessible.ignored: true
                 }
                 Words {
                     text: root.time
                     color: Theme.secondary
                     font.pixelSize: Theme.secondarySize
+                    Accessible.ignored: true
                 }
             }
             RowLayout {
@@ -52,10 +49,11 @@ Card {
                     elide: Text.ElideRight
                     maximumLineCount: 2
                     Layout.fillWidth: true
+                    Accessible.ignored: true
                 }
                 Badge {
-                    text: root.unread
-                    visible: root.unread !== ""
+                    text: root.unseen
+                    visible: root.unseen !== ""
                     Layout.alignment: Qt.AlignTop
                 }
             }

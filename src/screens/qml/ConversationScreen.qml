@@ -1,0 +1,102 @@
+// Delegates reach the screen by its id, which this lint takes for a name from nowhere.
+// qmllint disable unqualified
+import QtQuick
+import QtQuick.Layouts
+import Orl.Screens
+
+// The chat with one sender.
+FocusScope {
+    id: root
+    required property ConversationView view
+
+    ConversationBar {
+        id: bar
+        width: parent.width
+        view: root.view
+        z: 1
+    }
+    ListView {
+        id: list
+        anchors.top: bar.bottom
+        anchors.bottom: input.top
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: Math.min(parent.width, Theme.columnWidth) - 2 * Theme.margin
+        visible: count > 0
+        focus: true
+        topMargin: Theme.space4
+        bottomMargin: Theme.space4
+        spacing: Theme.space4
+        cacheBuffer: Theme.phoneHeight
+        boundsBehavior: Flickable.StopAtBounds
+        model: root.view.cards
+        Accessible.role: Accessible.List
+        Accessible.name: "Messages"
+        delegate: ChatMessageCard {
+            width: ListView.view.width
+            onExportTapped: entry => root.view.tapExport(entry)
+        }
+        footer: Item { objectName: "lastItem" }
+
+        NumberAnimation {
+            id: toLastItem
+            target: list
+            property: "contentY"
+            duration: Theme.travel
+            easing.type: Easing.OutCubic
+            onFinished: list.positionViewAtEnd()
+        }
+        Connections {
+            target: root.view
+            function onScrollToLastItem() {
+                const from = list.contentY;
+                list.positionViewAtEnd();
+                toLastItem.from = from;
+                toLastItem.to = list.contentY;
+                toLastItem.restart();
+            }
+        }
+    }
+    StateMessage {
+        anchors.top: bar.bottom
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: Math.min(parent.width, Theme.columnWidth)
+        height: root.view.emptyHeight(root.height)
+        visible: list.count === 0
+        title: "No messages here yet..."
+        sentence: "Please wait a couple of minutes!"
+    }
+    Rectangle {
+        id: input
+        anchors.bottom: parent.bottom
+        width: parent.width
+        height: row.implicitHeight + 2 * Theme.space2
+        color: Theme.bar
+
+        Rectangle {
+            width: parent.width
+            height: Theme.hairline
+            color: Theme.separator
+        }
+        RowLayout {
+            id: row
+            anchors.verticalCenter: parent.verticalCenter
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: Math.min(parent.width, Theme.columnWidth) - 2 * Theme.margin
+            spacing: Theme.space2
+
+            InputField {
+                text: root.view.messageText
+                placeholderText: "Aa..."
+                Layout.fillWidth: true
+                onTextChanged: root.view.messageText = text
+            }
+            SymbolButton {
+                symbol: "send"
+                ink: Theme.accent
+                mirrorsWithLayout: true
+                text: "Send"
+                onClicked: root.view.send()
+            }
+        }
+    }
+}
