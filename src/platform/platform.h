@@ -1,10 +1,14 @@
 #pragma once
 
+#include "platform/background_scheduler.h"
 #include "platform/browser.h"
 #include "platform/endpoints.h"
 #include "platform/haptics.h"
+#include "platform/mail_composer.h"
 #include "platform/notification_center.h"
 #include "platform/pasteboard.h"
+#include "platform/scene.h"
+#include "platform/store_review.h"
 
 #include <QString>
 
@@ -44,6 +48,10 @@ struct Platform {
     Haptics &haptics = NoHaptics::instance();
     Pasteboard &pasteboard = NoPasteboard::instance();
     Browser &browser = NoBrowser::instance();
+    MailComposer &mailComposer = NoMailComposer::instance();
+    StoreReview &storeReview = NoStoreReview::instance();
+    Scene &scene = Scene::none();
+    BackgroundScheduler &background = NoBackgroundScheduler::instance();
 };
 
 } // namespace orl
