@@ -1,10 +1,16 @@
 #pragma once
 
+#include "platform/ad_service.h"
 #include "platform/browser.h"
+#include "platform/consent_service.h"
+#include "platform/device.h"
 #include "platform/endpoints.h"
 #include "platform/haptics.h"
 #include "platform/notification_center.h"
 #include "platform/pasteboard.h"
+#include "platform/push_service.h"
+#include "platform/random_source.h"
+#include "platform/tracking_authorization.h"
 
 #include <QString>
 
@@ -44,6 +50,12 @@ struct Platform {
     Haptics &haptics = NoHaptics::instance();
     Pasteboard &pasteboard = NoPasteboard::instance();
     Browser &browser = NoBrowser::instance();
+    AdService &ads = NoAdService::instance();
+    ConsentService &consent = NoConsentService::instance();
+    TrackingAuthorization &tracking = NoTrackingAuthorization::instance();
+    PushService &push = NoPushService::instance();
+    Device &device = PhoneDevice::instance();
+    RandomSource &random = SystemRandom::instance();
 };
 
 } // namespace orl
