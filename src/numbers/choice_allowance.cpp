@@ -28,6 +28,10 @@ void ChoiceAllowance::countChoice() {
     setChosenNumbersCount(process_.platform().store.integer(countKey) + 1);
 }
 
+void ChoiceAllowance::giveWay() {
+    setChosenNumbersCount(process_.platform().store.integer(countKey) - 1);
+}
+
 bool ChoiceAllowance::mayChoose() {
     return chosenNumbersCount() < maxChosenNumbers || !configuration_->get()->admob.rewardAdEnabled;
 }

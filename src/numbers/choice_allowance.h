@@ -29,6 +29,9 @@ public:
     /// it holds nothing back then.
     bool mayChoose();
 
+    /// No video can be watched, and the user is not held back for that: one choice less counts from now on.
+    void giveWay();
+
     /// A rewarded video was watched to its end: starts afresh and emits rewardUser.
     void resetAllowance();
 

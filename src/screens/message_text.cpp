@@ -1,8 +1,8 @@
 #include "screens/message_text.h"
 
 #include "numbers/moments.h"
+#include "numbers/text_helpers.h"
 #include "screens/copy_view_model.h"
-#include "screens/text_helpers.h"
 
 #include <QDateTime>
 #include <QUrl>

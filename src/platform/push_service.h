@@ -1,0 +1,28 @@
+#pragma once
+
+#include <functional>
+
+namespace orl {
+
+/// The service that would send messages to the phone from afar.
+class PushService {
+public:
+    virtual ~PushService() = default;
+
+    /// Asks for the permission to notify. With `fallbackToSettings` a user who refused before is led to the
+    /// phone's settings. The completion runs in every case, at once or later, on the main thread.
+    virtual void requestPermission(bool fallbackToSettings, std::function<void(bool granted)> completion) = 0;
+};
+
+/// Stands where nothing is pushed: permission is refused at once.
+class NoPushService final : public PushService {
+public:
+    void requestPermission(bool, std::function<void(bool granted)> completion) override { completion(false); }
+
+    static PushService &instance() {
+        static NoPushService none;
+        return none;
+    }
+};
+
+} // namespace orl
