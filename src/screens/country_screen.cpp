@@ -1,5 +1,6 @@
 #include "screens/country_screen.h"
 
+#include "ads/pop_up_ad.h"
 #include "config/internet_view_model.h"
 #include "numbers/request_view_model.h"
 #include "screens/country_sections.h"
@@ -58,6 +59,7 @@ void CountryScreen::tap(int row) {
     Q_EMIT numbersChanged();
     setIsPresented(true);
     numbers_->load();
+    if (!firstSetup_) process_.shared<PopUpAd>().showInterstitial(1);
 }
 
 void CountryScreen::setIsPresented(bool presented) {

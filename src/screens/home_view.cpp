@@ -1,5 +1,6 @@
 #include "screens/home_view.h"
 
+#include "ads/pop_up_ad.h"
 #include "config/internet_view_model.h"
 #include "numbers/moments.h"
 #include "numbers/request_view_model.h"
@@ -49,6 +50,8 @@ HomeView::HomeView(Process &process, RequestViewModel &request, InternetViewMode
     connect(&request_, &RequestViewModel::currentCountryNumbersChanged, this, &HomeView::showSimilar);
     connect(&request_, &RequestViewModel::lastFetchSucceededAtChanged, this, &HomeView::noteFetch);
     connect(&internet_, &InternetViewModel::isConnectedChanged, this, &HomeView::stateChanged);
+    connect(&choice_, &NumberChoice::chosen, this,
+            [this] { process_.shared<PopUpAd>().showInterstitial(1); });
     timer_ = process_.platform().mainQueue.every(tick, [this] { fetchOnTick(); });
     showMessages();
     showSimilar();
@@ -120,6 +123,7 @@ QString HomeView::fetchAge() const {
 void HomeView::setMessagesStackType(MessageStackType type) {
     messagesStackType_ = type;
     Q_EMIT messagesStackTypeChanged();
+    process_.shared<PopUpAd>().showInterstitial(0);
 }
 
 void HomeView::appear() {
@@ -196,6 +200,7 @@ void HomeView::tapSender(int row) {
     if (row < 0 || row >= senders_.count()) return;
     request_.setSelectedConversation(senders_.at(row));
     request_.setConversation_isPresented(true);
+    process_.shared<PopUpAd>().showInterstitial(1);
 }
 
 void HomeView::tapSimilar(int row) {

@@ -76,6 +76,7 @@ public:
     bool showINBaner() const { return showINBaner_; }
 
     MessageStackType messagesStackType() const { return messagesStackType_; }
+    /// A tap on the layout that is chosen already counts towards an ad too.
     void setMessagesStackType(MessageStackType type);
     bool bySender() const { return messagesStackType_ == MessageStackType::SENDERS; }
     Q_INVOKABLE void showRecent() { setMessagesStackType(MessageStackType::RECENT); }

@@ -1,5 +1,6 @@
 #include "screens/phone_number_view.h"
 
+#include "ads/pop_up_ad.h"
 #include "numbers/request_view_model.h"
 #include "platform/haptics.h"
 #include "platform/queues.h"
@@ -16,7 +17,10 @@ PhoneNumberView::PhoneNumberView(Process &process, RequestViewModel &request, st
       country_(std::move(country)),
       firstSetup_(firstSetup),
       choice_(process, request) {
-    connect(&choice_, &NumberChoice::chosen, this, &PhoneNumberView::left);
+    connect(&choice_, &NumberChoice::chosen, this, [this] {
+        Q_EMIT left();
+        process_.shared<PopUpAd>().showInterstitial(2);
+    });
 }
 
 PhoneNumberView::State PhoneNumberView::state() const {

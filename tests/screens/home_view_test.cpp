@@ -180,4 +180,88 @@ TEST_F(HomeTest, TapsCopyTheNumberAndCodesAndOpenLinks) {
     EXPECT_EQ(pasteboard.text, QStringLiteral("123456"));
 }
 
+TEST_F(HomeTest, InlineBannerMayStandThreeSecondsAfterTheScreenAppeared) {
+    HomeView &home = makeHome();
+    phone.advance(2999ms);
+    EXPECT_FALSE(home.showINBaner());
+    phone.advance(1ms);
+    EXPECT_TRUE(home.showINBaner());
+}
+
+TEST_F(HomeTest, OldMessagesMayBeAskedForByHand) {
+    HomeView &home = makeHome({{QStringLiteral("A"), QStringLiteral("one"), at}});
+    EXPECT_FALSE(home.allowManualRefresh());
+    phone.urls.answer(messagesUrl, Error{QStringLiteral("down")});
+    phone.advance(70s);
+    EXPECT_TRUE(home.allowManualRefresh());
+    answerMessages({{QStringLiteral("B"), QStringLiteral("two"), at}});
+    home.retry();
+    phone.settle();
+    EXPECT_FALSE(home.allowManualRefresh());
+    EXPECT_EQ(shown(), QStringList{QStringLiteral("two")});
+}
+
+TEST_F(HomeTest, UnchangedPageTouchesNoRow) {
+    HomeView &home = makeHome(
+        {{QStringLiteral("A"), QStringLiteral("one"), at}, {QStringLiteral("B"), QStringLiteral("two"), at}});
+    for (const QAbstractItemModel *model : {static_cast<QAbstractItemModel *>(home.messages()),
+                                            static_cast<QAbstractItemModel *>(home.senders())}) {
+        QObject::connect(model, &QAbstractItemModel::rowsInserted, [] { ADD_FAILURE() << "inserted"; });
+        QObject::connect(model, &QAbstractItemModel::rowsRemoved, [] { ADD_FAILURE() << "removed"; });
+        QObject::connect(model, &QAbstractItemModel::rowsMoved, [] { ADD_FAILURE() << "moved"; });
+        QObject::connect(model, &QAbstractItemModel::modelReset, [] { ADD_FAILURE() << "reset"; });
+    }
+    const AvatarFace before = home.senders()->value(1, "face").value<AvatarFace>();
+    phone.advance(50s);
+    EXPECT_EQ(home.senders()->value(1, "face").value<AvatarFace>(), before);
+}
+
+TEST_F(HomeTest, SlotsTakeNoRoomInAPageOfManySenders) {
+    makeHome();
+    setAds(true);
+    answerMessages(test::manySms(7));
+    phone.advance(10s);
+    EXPECT_EQ(request().senders().size(), 9); // slots at 0 and 5
+    EXPECT_EQ(content->home()->senders()->count(), 7);
+    content->home()->tapSender(4);
+    EXPECT_EQ(request().selectedConversation()->name, QStringLiteral("Sender 5"));
+}
+
+/// Actions that bring the next full-screen ad nearer.
+TEST_F(HomeTest, ActionsCountTowardsTheNextInterstitial) {
+    const auto counted = [this] { return phone.store.integer(QStringLiteral("SHOW_AD_AFTER")); };
+    HomeView &home = makeHome({{QStringLiteral("A"), QStringLiteral("one"), at}});
+    request().fetchNumbers(*request().currentCountry(), [](const auto &) {});
+    phone.settle();
+    EXPECT_EQ(counted(), 0) << "the first choice counts nothing";
+    home.showSenders();
+    EXPECT_EQ(counted(), 1);
+    home.showSenders();
+    EXPECT_EQ(counted(), 2) << "the layout that is chosen already";
+    home.tapSender(0);
+    EXPECT_EQ(counted(), 3);
+    home.openCountries();
+    EXPECT_EQ(counted(), 3);
+    home.countries()->tap(1);
+    EXPECT_EQ(counted(), 4);
+    phone.settle();
+    home.countries()->numbers()->tap(1);
+    EXPECT_EQ(counted(), 4);
+    phone.urls.answer(QStringLiteral("https://first.example/en/numbers/15550199"), test::messagePage({}));
+    home.countries()->numbers()->choice()->confirm();
+    EXPECT_EQ(counted(), 5);
+    home.tapSimilar(0);
+    home.choice()->confirm();
+    EXPECT_EQ(counted(), 6);
+}
+
+TEST_F(HomeTest, FirstRunCountsNoAction) {
+    makeContent();
+    phone.settle();
+    content->chooser()->tap(1);
+    phone.settle();
+    content->chooser()->numbers()->tap(0);
+    EXPECT_EQ(phone.store.integer(QStringLiteral("SHOW_AD_AFTER")), 0);
+}
+
 } // namespace
