@@ -46,13 +46,19 @@ ensure_packages() {
     rm -f "$log"
 }
 
-# configure PRESET [-D...]: runs cmake once; later builds reconfigure by themselves when a CMake file changed.
+# configure PRESET [-DNAME=VALUE...]: runs cmake once, and again where a value asked for is not the build's. Later builds
+# reconfigure by themselves when a CMake file changed.
 configure() {
-    [ -f "build/$1/build.ninja" ] && [ "build/$1/.configured" -nt CMakePresets.json ] && return 0
-    say "configuring build/$1"
-    cmake --preset "$@" >"$(mkdir -p "build/$1"; echo "build/$1/configure.log")" 2>&1 ||
-        { cat "build/$1/configure.log" >&2; return 1; }
-    touch "build/$1/.configured"
+    local folder=build/$1 option name same=yes
+    for option in "${@:2}"; do
+        name=${option#-D}
+        grep -qs "^${name%%=*}:[A-Z]*=${name#*=}\$" "$folder/CMakeCache.txt" || same=no
+    done
+    [ $same = yes ] && [ -f "$folder/build.ninja" ] && [ "$folder/.configured" -nt CMakePresets.json ] && return 0
+    say "configuring $folder"
+    mkdir -p "$folder"
+    cmake --preset "$@" >"$folder/configure.log" 2>&1 || { cat "$folder/configure.log" >&2; return 1; }
+    touch "$folder/.configured"
 }
 
 # build PRESET [TARGET...]

@@ -39,23 +39,29 @@ DesktopAppearance::DesktopAppearance(Appearance &appearance, QObject *parent)
     appearance_.setDark(paletteIsDark());
     appearance_.watchInput(qGuiApp);
     appearance_.setRightToLeft(QGuiApplication::isRightToLeft());
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected()) return;
-    bus.connect(service, path, settings, QStringLiteral("SettingChanged"), this,
-                SLOT(apply(QString, QString, QDBusVariant)));
-    read(appearanceGroup, QStringLiteral("color-scheme"));
+    if (!QDBusConnection::sessionBus().isConnected()) return;
+    // A new connection to the bus sometimes loses what it is asked to watch; after its first answer it does
+    // not.
+    read(appearanceGroup, QStringLiteral("color-scheme"), [this] { follow(); });
     read(desktopGroup, QStringLiteral("text-scaling-factor"));
     read(desktopGroup, QStringLiteral("enable-animations"));
 }
 
-void DesktopAppearance::read(const QString &group, const QString &key) {
+void DesktopAppearance::follow() {
+    QDBusConnection::sessionBus().connect(service, path, settings, QStringLiteral("SettingChanged"), this,
+                                          SLOT(apply(QString, QString, QDBusVariant)));
+    read(appearanceGroup, QStringLiteral("color-scheme")); // it may have changed before it was watched
+}
+
+void DesktopAppearance::read(const QString &group, const QString &key, const std::function<void()> &then) {
     auto call = QDBusMessage::createMethodCall(service, path, settings, QStringLiteral("Read"));
     call << group << key;
     auto *reply = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), this);
-    connect(reply, &QDBusPendingCallWatcher::finished, this, [this, reply, group, key] {
+    connect(reply, &QDBusPendingCallWatcher::finished, this, [this, reply, group, key, then] {
         const QDBusPendingReply<QDBusVariant> answer = *reply;
         if (answer.isValid()) apply(group, key, answer.value());
         reply->deleteLater();
+        if (then) then();
     });
 }
 

@@ -5,6 +5,8 @@
 #include <QDBusVariant>
 #include <QObject>
 
+#include <functional>
+
 namespace orl {
 
 /// Keeps an Appearance in step with the desktop: colour scheme, text size and reduced motion from the
@@ -19,7 +21,8 @@ private Q_SLOTS:
     void apply(const QString &group, const QString &key, const QDBusVariant &value);
 
 private:
-    void read(const QString &group, const QString &key);
+    void follow();
+    void read(const QString &group, const QString &key, const std::function<void()> &then = {});
 
     Appearance &appearance_;
 };

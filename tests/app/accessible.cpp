@@ -37,7 +37,8 @@ QVariantList Accessible::call(const QString &interface, const QString &method,
                               const QVariantList &arguments) const {
     QDBusMessage message = QDBusMessage::createMethodCall(service_, path_, interface, method);
     message.setArguments(arguments);
-    return bus_.call(message, QDBus::Block, 5000).arguments();
+    const QDBusMessage answer = bus_.call(message, QDBus::Block, 5000);
+    return answer.type() == QDBusMessage::ReplyMessage ? answer.arguments() : QVariantList();
 }
 
 QVariant Accessible::property(const QString &interface, const QString &name) const {

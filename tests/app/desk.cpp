@@ -1,5 +1,6 @@
 #include "desk.h"
 
+#include <QCoreApplication>
 #include <QDBusMessage>
 #include <QTest>
 
@@ -15,16 +16,20 @@ const QString sessionName = QStringLiteral("walk-session");
 const QString accessibilityName = QStringLiteral("walk-accessibility");
 const QString appearanceGroup = QStringLiteral("org.freedesktop.appearance");
 const QString colorScheme = QStringLiteral("color-scheme");
+constexpr uint preferDark = 1, preferLight = 2;
+constexpr qint64 firstDisplay = 1000, displays = 50000;
 
 } // namespace
 
 void PlayedPortal::setDark(bool dark) {
     dark_ = dark;
-    Q_EMIT SettingChanged(appearanceGroup, colorScheme, Read(appearanceGroup, colorScheme));
+    QMetaObject::invokeMethod(this, [this, dark] {
+        Q_EMIT SettingChanged(appearanceGroup, colorScheme, QDBusVariant(dark ? preferDark : preferLight));
+    });
 }
 
 QDBusVariant PlayedPortal::Read(const QString &group, const QString &key) {
-    if (group == appearanceGroup && key == colorScheme) return QDBusVariant(dark_ ? 1U : 2U);
+    if (group == appearanceGroup && key == colorScheme) return QDBusVariant(dark_ ? preferDark : preferLight);
     if (calledFromDBus()) sendErrorReply(QStringLiteral("org.freedesktop.portal.Error.NotFound"));
     return QDBusVariant(0U);
 }
@@ -37,12 +42,15 @@ Desk::Desk() : environment_(QProcessEnvironment::systemEnvironment()) {
     environment_.insert(QStringLiteral("XDG_DATA_HOME"), home_.filePath(QStringLiteral("data")));
     environment_.insert(QStringLiteral("QT_LINUX_ACCESSIBILITY_ALWAYS_ON"), QStringLiteral("1"));
 
+    // A number of the walk's own: servers that look for a free one at the same time can take the same.
+    const QString display =
+        QStringLiteral(":%1").arg(firstDisplay + QCoreApplication::applicationPid() % displays);
     display_ = start(QStringLiteral("Xvfb"),
-                     {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                      QStringLiteral("0"), QStringLiteral("390x844x24"), QStringLiteral("-nolisten"),
-                      QStringLiteral("tcp")});
-    environment_.insert(QStringLiteral("DISPLAY"),
-                        QStringLiteral(":") + QString::fromUtf8(firstLineOf(*display_)));
+                     {display, QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-noreset"),
+                      QStringLiteral("-screen"), QStringLiteral("0"), QStringLiteral("390x844x24"),
+                      QStringLiteral("-nolisten"), QStringLiteral("tcp")});
+    firstLineOf(*display_);
+    environment_.insert(QStringLiteral("DISPLAY"), display);
     bus_ = start(QStringLiteral("dbus-daemon"), {QStringLiteral("--session"), QStringLiteral("--nofork"),
                                                  QStringLiteral("--print-address=1")});
     environment_.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), QString::fromUtf8(firstLineOf(*bus_)));
@@ -52,6 +60,8 @@ Desk::Desk() : environment_(QProcessEnvironment::systemEnvironment()) {
 Desk::~Desk() {
     QDBusConnection::disconnectFromBus(accessibilityName);
     QDBusConnection::disconnectFromBus(sessionName);
+    portalThread_.quit();
+    portalThread_.wait();
     for (QProcess *service : {bus_.get(), display_.get()}) {
         service->terminate();
         if (!service->waitForFinished(5000)) service->kill();
@@ -70,8 +80,11 @@ QByteArray Desk::firstLineOf(QProcess &service) {
 void Desk::connectBuses() {
     QDBusConnection session = QDBusConnection::connectToBus(
         environment_.value(QStringLiteral("DBUS_SESSION_BUS_ADDRESS")), sessionName);
-    session.registerObject(QStringLiteral("/org/freedesktop/portal/desktop"), &portal_,
+    session.registerObject(QStringLiteral("/org/freedesktop/portal/desktop"), portal_,
                            QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
+    portal_->moveToThread(&portalThread_);
+    QObject::connect(&portalThread_, &QThread::finished, portal_, &QObject::deleteLater);
+    portalThread_.start();
     session.registerService(QStringLiteral("org.freedesktop.portal.Desktop"));
 
     const QDBusMessage ask =

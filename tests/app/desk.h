@@ -6,12 +6,15 @@
 #include <QObject>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QThread>
 
+#include <atomic>
 #include <memory>
 
 namespace orl {
 
-/// The part of a desktop that tells programs its settings; the walk flips between light and dark with it.
+/// The part of a desktop that tells programs its settings; the walk flips between light and dark with it. It
+/// answers on a thread of its own, as the walk itself waits for the program that asks.
 class PlayedPortal : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
@@ -25,7 +28,7 @@ Q_SIGNALS:
     void SettingChanged(const QString &group, const QString &key, const QDBusVariant &value);
 
 private:
-    bool dark_ = false;
+    std::atomic<bool> dark_ = false;
 };
 
 /// A desktop of the walk's own, gone when it is destroyed: an X server without a screen, a session bus with
@@ -44,7 +47,7 @@ public:
     QProcessEnvironment environment() const { return environment_; }
 
     QDBusConnection accessibilityBus() const;
-    PlayedPortal &portal() { return portal_; }
+    PlayedPortal &portal() { return *portal_; }
 
     /// Runs a small program here to its end; what it printed.
     QString run(const QString &program, const QStringList &arguments) const;
@@ -60,7 +63,8 @@ private:
     QProcessEnvironment environment_;
     QString problem_;
     std::unique_ptr<QProcess> display_, bus_;
-    PlayedPortal portal_;
+    QThread portalThread_;
+    PlayedPortal *const portal_ = new PlayedPortal; ///< goes with its thread
 };
 
 } // namespace orl

@@ -10,6 +10,7 @@
 #include <QClipboard>
 #include <QDir>
 #include <QGuiApplication>
+#include <QImage>
 #include <QPixmap>
 #include <QScreen>
 #include <QTest>
@@ -105,23 +106,30 @@ protected:
                   QString::number(height)});
     }
 
-    void look(const QString &station) {
+    QImage look(const QString &station) {
         const QString file = QDir(pictureFolder).filePath(station + QStringLiteral(".png"));
         QFile::remove(file);
         desk.run(ownPath, {QStringLiteral("--look"), file});
-        EXPECT_TRUE(QFile::exists(file)) << qPrintable(station);
+        QImage picture(file);
+        EXPECT_FALSE(picture.isNull()) << qPrintable(station);
+        return picture;
+    }
+
+    /// Looks until the window has followed the desktop into the dark or into the light.
+    void lookWhen(bool dark, const QString &station) {
+        EXPECT_TRUE(
+            QTest::qWaitFor([&] { return (look(station).pixelColor(1, 1).lightness() < 64) == dark; }, 20000))
+            << qPrintable(station) << " did not follow the desktop's colour scheme";
     }
 
     /// The station in light and dark, large and small.
     void lookAround(const QString &station) {
-        look(station + QStringLiteral("-light"));
+        lookWhen(false, station + QStringLiteral("-light"));
         desk.portal().setDark(true);
         resize(360, 640);
-        QTest::qWait(500); // the desktop's change has no answer to wait for
-        look(station + QStringLiteral("-dark-small"));
+        lookWhen(true, station + QStringLiteral("-dark-small"));
         desk.portal().setDark(false);
         resize(390, 844);
-        QTest::qWait(500);
     }
 
     QStringList contents() {
