@@ -79,21 +79,45 @@ protected:
 
     /// Lets everything arrive, keeps a picture and checks what is on the screen.
     void look(const char *station) {
-        phone.settle();
-        QTest::qWait(300); // fades and pictures run on the toolkit's own clock
-        phone.settle();
-        QTest::qWait(50);
+        comeToRest();
         const QImage picture = window_->grabWindow();
         std::filesystem::create_directories("pictures");
         picture.save(QStringLiteral("pictures/%1-%2.png")
-                         .arg(QString::fromLatin1(station), QString::fromLatin1(GetParam().name)));
+                         .arg(QString::fromLatin1(station), QString::fromLatin1(GetParam().name)),
+                     nullptr, fastPng);
         SCOPED_TRACE(station);
         EXPECT_GT(coloursOf(picture), 20) << "a blank screen";
         check(*window_->contentItem());
         EXPECT_EQ(std::exchange(complaints, {}).join(u'\n').toStdString(), "");
     }
 
+    /// Fades and pictures run on the toolkit's own clock: waits until nothing on the screen changes any more.
+    void comeToRest() {
+        size_t before = 0;
+        const auto resting = [&] {
+            phone.settle();
+            const size_t now = traceOf(*window_->contentItem());
+            return std::exchange(before, now) == now;
+        };
+        do
+            QTest::qWait(20); // more than a frame
+        while (!resting());
+    }
+
 private:
+    static constexpr int fastPng = 80; ///< of 100; less work for a larger file
+
+    /// Tells two moments of an animated screen apart.
+    static size_t traceOf(const QQuickItem &item) {
+        if (!item.isVisible()) return 0;
+        const QVariant status = item.property("status");
+        size_t trace = qHashMulti(0, item.x(), item.y(), item.width(), item.height(), item.opacity(),
+                                  item.scale(), status.toInt());
+        for (const QQuickItem *child : item.childItems())
+            trace = qHashMulti(trace, traceOf(*child));
+        return trace;
+    }
+
     static int coloursOf(const QImage &picture) {
         QSet<QRgb> colours;
         for (int y = 0; y < picture.height(); y += 3) {

@@ -16,16 +16,19 @@ ColumnLayout {
     }
     GridLayout {
         columns: Theme.large ? 1 : 2
+        rowSpacing: 0
         Layout.fillWidth: true
         Layout.bottomMargin: Theme.space3
         StackSelector { view: root.view }
-        Words {
-            text: root.view.fetchAge === "" ? "" : "Updated " + root.view.fetchAge
-            visible: root.view.state === HomeView.Messages
-            color: Theme.secondary
-            font.pixelSize: Theme.secondarySize
-            horizontalAlignment: Theme.large ? Text.AlignLeft : Text.AlignRight
-            Layout.fillWidth: true
+        QuietButton {
+            text: root.view.allowManualRefresh ? "Updated " + root.view.fetchAge : ""
+            symbol: "arrow-clockwise"
+            visible: root.view.state === HomeView.Messages && root.view.allowManualRefresh
+            ink: Theme.secondary
+            Accessible.name: text + ". Refresh"
+            Layout.alignment: Theme.large ? Qt.AlignLeft : Qt.AlignRight
+            Layout.maximumWidth: root.width
+            onClicked: root.view.retry()
         }
     }
 }

@@ -19,7 +19,7 @@ Item {
         id: loading
         width: parent.width
         visible: root.view.state === HomeView.Loading
-        busy: true
+        typing: true
         title: root.view.nothingYet ? "No messages yet" : ""
         sentence: root.view.nothingYet ? "A new message appears here by itself." : "Fetching messages..."
     }

@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 
-// What stands where there is nothing to list: a drawing or dots, a title, a sentence, and what can be done.
+// What stands where there is nothing to list: a drawing or something that moves, a title, a sentence, and what can be done.
 Item {
     id: root
     property string drawing
@@ -9,6 +9,7 @@ Item {
     property string sentence
     property string button
     property bool busy: false
+    property bool typing: false
     signal acted
 
     implicitHeight: column.implicitHeight + 2 * Theme.space6
@@ -26,6 +27,10 @@ Item {
             sourceSize { width: Theme.drawing; height: Theme.drawing }
             Layout.alignment: Qt.AlignHCenter
             Accessible.ignored: true
+        }
+        MessageLoader {
+            visible: root.typing
+            Layout.alignment: Qt.AlignHCenter
         }
         Progress {
             visible: root.busy
