@@ -1,15 +1,19 @@
 #pragma once
 
 #include "platform/ad_service.h"
+#include "platform/background_scheduler.h"
 #include "platform/browser.h"
 #include "platform/consent_service.h"
 #include "platform/device.h"
 #include "platform/endpoints.h"
 #include "platform/haptics.h"
+#include "platform/mail_composer.h"
 #include "platform/notification_center.h"
 #include "platform/pasteboard.h"
 #include "platform/push_service.h"
 #include "platform/random_source.h"
+#include "platform/scene.h"
+#include "platform/store_review.h"
 #include "platform/tracking_authorization.h"
 
 #include <QString>
@@ -56,6 +60,10 @@ struct Platform {
     PushService &push = NoPushService::instance();
     Device &device = PhoneDevice::instance();
     RandomSource &random = SystemRandom::instance();
+    MailComposer &mailComposer = NoMailComposer::instance();
+    StoreReview &storeReview = NoStoreReview::instance();
+    Scene &scene = Scene::none();
+    BackgroundScheduler &background = NoBackgroundScheduler::instance();
 };
 
 } // namespace orl

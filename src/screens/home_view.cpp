@@ -3,11 +3,11 @@
 #include "config/internet_view_model.h"
 #include "numbers/moments.h"
 #include "numbers/request_view_model.h"
+#include "numbers/text_helpers.h"
 #include "platform/browser.h"
 #include "platform/clock.h"
 #include "screens/copy_view_model.h"
 #include "screens/gradient_ink.h"
-#include "screens/text_helpers.h"
 
 #include <QDateTime>
 #include <QUrl>

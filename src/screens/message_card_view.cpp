@@ -1,8 +1,8 @@
 #include "screens/message_card_view.h"
 
 #include "numbers/moments.h"
+#include "numbers/text_helpers.h"
 #include "platform/clock.h"
-#include "screens/text_helpers.h"
 
 namespace orl {
 

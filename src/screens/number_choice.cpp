@@ -1,8 +1,8 @@
 #include "screens/number_choice.h"
 
 #include "numbers/request_view_model.h"
+#include "numbers/text_helpers.h"
 #include "platform/haptics.h"
-#include "screens/text_helpers.h"
 
 namespace orl {
 

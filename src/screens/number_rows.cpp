@@ -1,6 +1,6 @@
 #include "screens/number_rows.h"
 
-#include "screens/text_helpers.h"
+#include "numbers/text_helpers.h"
 
 #include <QRandomGenerator>
 

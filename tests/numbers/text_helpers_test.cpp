@@ -1,4 +1,4 @@
-#include "screens/text_helpers.h"
+#include "numbers/text_helpers.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
