@@ -4,7 +4,7 @@ run_packages=(
     # build
     g++ cmake ninja-build ccache mold pkg-config git ca-certificates
     qt6-base-dev qt6-declarative-dev qt6-declarative-dev-tools qt6-httpserver-dev qt6-websockets-dev qt6-svg-dev
-    libgl-dev libvulkan-dev libsqlite3-dev libicu-dev liburiparser-dev zlib1g-dev
+    libgl-dev libvulkan-dev libsqlite3-dev libicu-dev libpsl-dev liburiparser-dev zlib1g-dev
     bootstrap-icons iso-flags-svg
     # run
     qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript qml6-module-qtquick

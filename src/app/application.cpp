@@ -2,8 +2,11 @@
 
 #include "screens/screens.h"
 
+#include <QDBusConnection>
+#include <QDesktopServices>
 #include <QGuiApplication>
 #include <QQuickWindow>
+#include <QStandardPaths>
 
 #include <cstdio>
 
@@ -16,6 +19,11 @@ namespace {
 /// Time for pictures to load and fades to end before the home screen is taken for complete.
 constexpr auto settling = 800ms;
 
+/// Sounds are made anew where they are missing, so they are kept where whatever may be lost is kept.
+QString soundFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
+}
+
 } // namespace
 
 Application::Application(const Options &options, const Endpoints &endpoints)
@@ -24,8 +32,17 @@ Application::Application(const Options &options, const Endpoints &endpoints)
               endpoints,
               {{QStringLiteral("CFBundleShortVersionString"), QStringLiteral(ORL_VERSION)},
                {QStringLiteral("CFBundleDisplayName"), QStringLiteral("Orl")}}}),
+      base_(linux_.platform()),
+      haptics_(QGuiApplication::desktopFileName(), QDBusConnection::sessionBus()),
+      notifications_({QStringLiteral("Orl"), QGuiApplication::desktopFileName(), soundFolder()}, base_.bundle,
+                     QDBusConnection::sessionBus()),
+      mailComposer_(base_.mainQueue, QDesktopServices::openUrl),
+      background_(base_.clock, base_.mainQueue, scene_, {AppDelegate::fetchingKey, AppDelegate::cleaningKey}),
       process_(platform()),
+      delegate_(process_),
       content_(process_, appearance_) {
+    delegate_.didFinishLaunching();
+    QObject::connect(&notifications_, &DesktopNotifications::chosen, &window_, &WindowScene::bringToFront);
     if (options_.choose) startChoice_ = std::make_unique<StartChoice>(content_.requestVM(), *options_.choose);
 }
 
@@ -35,10 +52,23 @@ Application::~Application() {
 }
 
 Platform Application::platform() {
-    const Platform base = linux_.platform();
-    return {base.clock,         base.mainQueue, base.globalQueue, base.urlReader, base.store,
-            base.reachability,  base.bundle,    base.console,     base.fatal,     base.endpoints,
-            base.notifications, haptics_,       pasteboard_,      browser_};
+    return {.clock = base_.clock,
+            .mainQueue = base_.mainQueue,
+            .globalQueue = base_.globalQueue,
+            .urlReader = base_.urlReader,
+            .store = base_.store,
+            .reachability = base_.reachability,
+            .bundle = base_.bundle,
+            .console = base_.console,
+            .fatal = base_.fatal,
+            .endpoints = base_.endpoints,
+            .notifications = notifications_,
+            .haptics = haptics_,
+            .pasteboard = pasteboard_,
+            .browser = browser_,
+            .mailComposer = mailComposer_,
+            .scene = scene_,
+            .background = background_};
 }
 
 int Application::run() {
@@ -51,6 +81,7 @@ bool Application::show() {
     prepareScreens(engine_, process_.platform());
     engine_.setInitialProperties({{QStringLiteral("content"), QVariant::fromValue(&content_)}});
     engine_.load(QUrl(QString::fromLatin1(mainWindow)));
+    if (auto *window = qobject_cast<QWindow *>(engine_.rootObjects().value(0))) window_.follow(*window);
     return !engine_.rootObjects().isEmpty();
 }
 

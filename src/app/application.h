@@ -1,11 +1,17 @@
 #pragma once
 
+#include "app/app_delegate.h"
 #include "app/desktop_appearance.h"
-#include "app/desktop_ports.h"
 #include "app/options.h"
 #include "app/start_choice.h"
+#include "app/window_scene.h"
 #include "platform/process.h"
+#include "platform/qt/desktop_mail_composer.h"
+#include "platform/qt/desktop_notifications.h"
+#include "platform/qt/desktop_ports.h"
+#include "platform/qt/feedback_haptics.h"
 #include "platform/qt/linux_platform.h"
+#include "platform/queued_background_scheduler.h"
 #include "screens/content_view.h"
 
 #include <QQmlApplicationEngine>
@@ -29,6 +35,9 @@ public:
     /// Shows the window and runs until it is closed; gives the exit code.
     int run();
 
+    /// See WindowScene::bringToFront.
+    void bringToFront(const QString &activationToken) { window_.bringToFront(activationToken); }
+
 private:
     Platform platform();
     bool show();
@@ -38,9 +47,16 @@ private:
     const Options options_;
     DesktopPasteboard pasteboard_;
     DesktopBrowser browser_;
-    FeedbackHaptics haptics_;
+    Scene scene_;
+    WindowScene window_{scene_};
     LinuxPlatform linux_;
+    const Platform base_; ///< what needs no desktop
+    FeedbackHaptics haptics_;
+    DesktopNotifications notifications_;
+    DesktopMailComposer mailComposer_;
+    QueuedBackgroundScheduler background_;
     Process process_;
+    AppDelegate delegate_;
     Appearance appearance_;
     DesktopAppearance desktop_{appearance_};
     ContentView content_;

@@ -1,10 +1,28 @@
 #include "app/application.h"
 #include "demo/endpoints_in_force.h"
+#include "platform/qt/single_instance.h"
 
 #include <QGuiApplication>
 #include <QLocale>
+#include <QStandardPaths>
 
 #include <cstdio>
+
+namespace {
+
+/// The exit code where this start must not go on; nothing where it is the first one.
+std::optional<int> endsHere(orl::SingleInstance &instance) {
+    switch (instance.start(qEnvironmentVariable("XDG_ACTIVATION_TOKEN"))) {
+    case orl::SingleInstance::Start::First: break;
+    case orl::SingleInstance::Start::Second: return 0;
+    case orl::SingleInstance::Start::NoAnswer:
+        std::fputs("orl: it runs already but does not answer\n", stderr);
+        return 1;
+    }
+    return std::nullopt;
+}
+
+} // namespace
 
 int main(int argc, char **argv) {
     QStringList arguments;
@@ -20,10 +38,20 @@ int main(int argc, char **argv) {
     QGuiApplication::setDesktopFileName(QStringLiteral("orl"));
     QGuiApplication::setLayoutDirection(QLocale().textDirection());
 
+    orl::SingleInstance instance(line.options->dataFolder, QDBusConnection::sessionBus(),
+                                 QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
+    // A picture is taken beside a running program.
+    if (line.options->picture.isEmpty()) {
+        if (const auto exitCode = endsHere(instance)) return *exitCode;
+    }
+
     const auto endpoints = orl::EndpointsInForce::open(line.options->endpointsFile);
     if (!endpoints) {
         std::fprintf(stderr, "orl: %s\n", qUtf8Printable(endpoints.error().description));
         return 2;
     }
-    return orl::Application(*line.options, endpoints.value()->endpoints()).run();
+    orl::Application application(*line.options, endpoints.value()->endpoints());
+    QObject::connect(&instance, &orl::SingleInstance::activated,
+                     [&application](const QString &token) { application.bringToFront(token); });
+    return application.run();
 }

@@ -14,19 +14,6 @@ QString digitsOf(const QString &text) {
     return digits;
 }
 
-/// Without the closing punctuation of the sentence; a closing bracket stays where the address itself opened
-/// one.
-QString withoutTrailingPunctuation(QString link) {
-    static const QString closers = QStringLiteral(".,;:!?'\"\u00bb\u201d\u2019\u2026");
-    while (!link.isEmpty()) {
-        const QChar last = link.back();
-        const bool unopened = last == u')' && link.count(u'(') < link.count(u')');
-        if (!unopened && !closers.contains(last)) break;
-        link.chop(1);
-    }
-    return link;
-}
-
 } // namespace
 
 QString formattedNumber(const QString &number, const QString &format, QChar placeholder) {
@@ -49,16 +36,6 @@ QStringList extractNumbers(qsizetype minimumLength, const QString &text) {
         numbers << (international ? u'+' + piece : piece);
     }
     return numbers;
-}
-
-std::optional<QString> firstLink(const QString &text) {
-    static const QRegularExpression address(QStringLiteral("\\bhttps?://[^\\s<>\"\u201c\u201d]+"),
-                                            QRegularExpression::CaseInsensitiveOption);
-    const QRegularExpressionMatch match = address.match(text);
-    if (!match.hasMatch()) return std::nullopt;
-    const QString link = withoutTrailingPunctuation(match.captured());
-    if (link.endsWith(QStringLiteral("//"))) return std::nullopt;
-    return link;
 }
 
 } // namespace orl

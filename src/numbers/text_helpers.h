@@ -1,9 +1,9 @@
 #pragma once
 
+#include "numbers/link_detector.h"
+
 #include <QString>
 #include <QStringList>
-
-#include <optional>
 
 namespace orl {
 
@@ -15,8 +15,5 @@ QString formattedNumber(const QString &number, const QString &format, QChar plac
 /// gone, so that "123-456" is one code. A run whose first two digits follow a plus sign in the text gets that
 /// sign back.
 QStringList extractNumbers(qsizetype minimumLength, const QString &text);
-
-/// The first http or https address in a text, without the punctuation that ends the sentence around it.
-std::optional<QString> firstLink(const QString &text);
 
 } // namespace orl

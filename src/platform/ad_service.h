@@ -15,8 +15,8 @@ namespace orl {
 
 /// The picture of an ad, or its video: the frames side by side in one picture, from left to right.
 struct AdMedia {
-    QByteArray picture; ///< an encoded image; empty without media
-    int frames = 1;     ///< more than one: a video
+    QByteArray picture = {}; ///< an encoded image; empty without media
+    int frames = 1;          ///< more than one: a video
     std::chrono::milliseconds frameTime{0};
 
     bool hasVideoContent() const { return frames > 1; }
@@ -25,15 +25,15 @@ struct AdMedia {
 
 /// What an ad is made of. Texts and pictures that an ad does not have are empty.
 struct AdAssets {
-    QString headline;
-    QString body;
-    QString callToAction;
-    QString advertiser;
-    QString store;
-    QString price;
-    std::optional<double> starRating; ///< of 5
-    QByteArray icon;                  ///< an encoded image
-    AdMedia media;
+    QString headline = {};
+    QString body = {};
+    QString callToAction = {};
+    QString advertiser = {};
+    QString store = {};
+    QString price = {};
+    std::optional<double> starRating = {}; ///< of 5
+    QByteArray icon = {};                  ///< an encoded image
+    AdMedia media = {};
 
     bool operator==(const AdAssets &) const = default;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/ad_service.h"
+#include "platform/analytics_service.h"
 #include "platform/background_scheduler.h"
 #include "platform/browser.h"
 #include "platform/consent_service.h"
@@ -64,6 +65,7 @@ struct Platform {
     StoreReview &storeReview = NoStoreReview::instance();
     Scene &scene = Scene::none();
     BackgroundScheduler &background = NoBackgroundScheduler::instance();
+    AnalyticsService &analytics = NoAnalyticsService::instance();
 };
 
 } // namespace orl

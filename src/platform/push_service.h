@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include <functional>
 
 namespace orl {
@@ -8,6 +10,12 @@ namespace orl {
 class PushService {
 public:
     virtual ~PushService() = default;
+
+    /// How talkative the service is, from 0 on.
+    virtual void setLogLevel(int) {}
+
+    /// Starts the service for this program. What the program was launched with is not passed on.
+    virtual void initialize(const QString & /*appId*/) {}
 
     /// Asks for the permission to notify. With `fallbackToSettings` a user who refused before is led to the
     /// phone's settings. The completion runs in every case, at once or later, on the main thread.

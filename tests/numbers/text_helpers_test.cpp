@@ -60,32 +60,4 @@ INSTANTIATE_TEST_SUITE_P(
         CodesCase{"no_break_space_divides", "123\u00a0456", {"123", "456"}}),
     [](const auto &row) { return row.param.name; });
 
-struct LinkCase {
-    const char *name;
-    const char *text;
-    const char *link;
-};
-
-class FirstLink : public testing::TestWithParam<LinkCase> {};
-
-TEST_P(FirstLink, FindsTheAddressAlone) {
-    const QString link = firstLink(QString::fromUtf8(GetParam().text)).value_or(QStringLiteral("none"));
-    EXPECT_EQ(link.toStdString(), GetParam().link);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Table, FirstLink,
-    testing::Values(LinkCase{"end_of_sentence", "See https://a.example/x.", "https://a.example/x"},
-                    LinkCase{"first_of_two", "http://a.example or http://b.example", "http://a.example"},
-                    LinkCase{"in_brackets", "(https://a.example/x)", "https://a.example/x"},
-                    LinkCase{"own_brackets", "https://a.example/x_(y)", "https://a.example/x_(y)"},
-                    LinkCase{"question_kept", "https://a.example/?q=1&r=2, now",
-                             "https://a.example/?q=1&r=2"},
-                    LinkCase{"quoted", "\"https://a.example/x\"", "https://a.example/x"},
-                    LinkCase{"upper_case_scheme", "HTTPS://A.example", "HTTPS://A.example"},
-                    LinkCase{"scheme_alone", "https:// is a scheme", "none"},
-                    LinkCase{"other_scheme", "mailto:a@b.example", "none"},
-                    LinkCase{"within_a_word", "xhttps://a.example", "none"}),
-    [](const auto &row) { return row.param.name; });
-
 } // namespace

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <functional>
+
+namespace orl {
+
+/// A message bus of the test's own, on which nothing can be started: what answers, the test put there.
+class PrivateBus {
+public:
+    PrivateBus();
+    ~PrivateBus();
+    PrivateBus(const PrivateBus &) = delete;
+    PrivateBus &operator=(const PrivateBus &) = delete;
+
+    /// A connection of its own for each part that is to look like a program of its own.
+    QDBusConnection connection(const QString &name);
+
+    const QString &address() const { return address_; }
+
+private:
+    QTemporaryDir folder_;
+    QProcess daemon_;
+    QString address_;
+    QStringList names_;
+};
+
+/// Lets events run until `reached` holds; false when that takes longer than any machine needs.
+bool waitUntil(const std::function<bool()> &reached);
+
+/// Lets all messages that are under way between `bus` and its peers arrive: the answer to one more call comes
+/// behind them.
+void settle(const QDBusConnection &bus);
+
+} // namespace orl
