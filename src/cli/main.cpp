@@ -24,24 +24,31 @@ int endWith(ExitCode code, const QString &notice) {
 }
 
 /// The ports of the phone with the two that are watched put in between.
-Platform watched(const Platform &ports, IdleWatch &idle, ReadWatch &reads) {
-    return {ports.clock,        ports.mainQueue, idle,          reads,       ports.store,
-            ports.reachability, ports.bundle,    ports.console, ports.fatal, ports.endpoints};
+Platform watched(const Platform &ports, IdleWatch &idle, ReadWatch &reads, Reachability &reachability) {
+    return {ports.clock,  ports.mainQueue, idle,          reads,       ports.store,
+            reachability, ports.bundle,    ports.console, ports.fatal, ports.endpoints};
+}
+
+/// Showing a number's messages makes it the current one; the application's own choice changes only where that
+/// was asked for.
+QString dataFolderFor(const CommandLine &line, const QTemporaryDir &scratch) {
+    if (!line.usesData()) return scratch.path();
+    return line.dataFolder.isEmpty() ? LinuxPlatform::defaultDataFolder() : line.dataFolder;
 }
 
 int runCommand(const CommandLine &line, const Endpoints &endpoints) {
-    // Showing a number's messages makes it the current one; the application's own choice must not change by
-    // that.
     const QTemporaryDir scratch;
     LinuxPlatform phone(
-        {.dataFolder = scratch.path(),
+        {.dataFolder = dataFolderFor(line, scratch),
          .endpoints = endpoints,
          .infoValues = {{QStringLiteral("CFBundleDisplayName"), QStringLiteral("Orl")},
                         {QStringLiteral("CFBundleShortVersionString"), QStringLiteral(ORL_VERSION)}}});
     const Platform ports = phone.platform();
     IdleWatch idle(ports.globalQueue, ports.mainQueue);
     ReadWatch reads(ports.urlReader);
-    Process process(watched(ports, idle, reads));
+    NoNetwork noNetwork;
+    const bool offline = line.command == CommandLine::Command::History;
+    Process process(watched(ports, idle, reads, offline ? noNetwork : ports.reachability));
     Commands commands(
         process, idle, reads,
         {[](const QString &result) { printLine(stdout, result); },
