@@ -1,5 +1,6 @@
 #include "demo_host.h"
 
+#include "advertising.h"
 #include "first_website.h"
 #include "second_website.h"
 #include "server.h"
@@ -40,7 +41,7 @@ struct DemoHost::World {
 
     demo::Server::Services services() const {
         return {{u"config"_s, &configuration}, {u"first"_s, &first},       {u"second"_s, &second},
-                {u"mail"_s, &unserved},        {u"identity"_s, &unserved}, {u"ads"_s, &unserved},
+                {u"mail"_s, &unserved},        {u"identity"_s, &unserved}, {u"ads"_s, &advertising},
                 {u"legal"_s, &unserved},       {u"store"_s, &unserved},    {u"probe"_s, &probe}};
     }
 
@@ -48,6 +49,7 @@ struct DemoHost::World {
     demo::ConfigurationDocuments configuration;
     demo::FirstWebsite first;
     demo::SecondWebsite second;
+    demo::Advertising advertising;
     Unserved unserved;
     Probe probe;
     demo::FaultTable faults;
