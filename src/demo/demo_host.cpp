@@ -1,5 +1,6 @@
 #include "demo_host.h"
 
+#include "advertising.h"
 #include "first_website.h"
 #include "legal_pages.h"
 #include "second_website.h"
@@ -41,7 +42,7 @@ struct DemoHost::World {
 
     demo::Server::Services services() const {
         return {{u"config"_s, &configuration}, {u"first"_s, &first},       {u"second"_s, &second},
-                {u"mail"_s, &unserved},        {u"identity"_s, &unserved}, {u"ads"_s, &unserved},
+                {u"mail"_s, &unserved},        {u"identity"_s, &unserved}, {u"ads"_s, &advertising},
                 {u"legal"_s, &legal},          {u"store"_s, &unserved},    {u"probe"_s, &probe}};
     }
 
@@ -50,6 +51,7 @@ struct DemoHost::World {
     demo::FirstWebsite first;
     demo::SecondWebsite second;
     demo::LegalPages legal;
+    demo::Advertising advertising;
     Unserved unserved;
     Probe probe;
     demo::FaultTable faults;
