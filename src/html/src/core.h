@@ -20,6 +20,7 @@
 // Used by one thread at a time, except the space itself and the static names.
 #pragma once
 
+#include "class_index.h"
 #include "names.h"
 #include "space.h"
 
@@ -443,6 +444,15 @@ public:
 
     /// Changes with each change of the tree or of an attribute that a caller makes.
     std::uint64_t version = 0;
+
+    /// The elements with a class, while the tree is as it was parsed.
+    ClassIndex classes;
+
+    std::uint32_t chunkCount() const { return chunkCount_; }
+    /// Whether each chunk has a higher address than those that were taken before it.
+    bool isInOneRow() const;
+    /// Where the next record will stand, if it fits into the chunk.
+    Ref nextRecord() const { return refOf(cursor_); }
 
     struct Tables; ///< what few pages need: see tables.h
     Tables &tables();

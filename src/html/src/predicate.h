@@ -48,6 +48,10 @@ public:
         return findAll(top, [this](NodeRec *element) { return holds(element); });
     }
 
+    /// How little findIn looks at.
+    enum class Walk { Tree, Column, Index };
+    virtual Walk walk() const { return Walk::Tree; }
+
     /// The scope has another root now.
     virtual void rootChanged() {}
 

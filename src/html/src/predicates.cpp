@@ -1,5 +1,6 @@
 // The predicates that look at one element: its names, attributes, place and text.
 #include "attr_value.h"
+#include "class_index.h"
 #include "class_match.h"
 #include "columns.h"
 #include "orl/html/evaluator.h"
@@ -38,6 +39,7 @@ public:
         : Predicate({}), numbers_(numbers), examples_(examples), test_(std::move(test)) {}
 
     bool holds(NodeRec *element) override { return test_(element); }
+    Walk walk() const override { return Walk::Column; }
     Found findIn(NodeRec *top) override {
         return findInColumn(top, numbers_, examples_,
                             [this](const NodeRec *element) { return test_(element); });
@@ -54,11 +56,28 @@ PredicatePtr makeTagTest(Test test) {
     return std::make_unique<ColumnPredicate<Test>>(&Columns::tags, &Columns::tagExamples, std::move(test));
 }
 
-template<class Test>
-PredicatePtr makeClassTest(Test test) {
-    return std::make_unique<ColumnPredicate<Test>>(&Columns::classes, &Columns::classExamples,
-                                                   std::move(test));
-}
+/// Looks at nothing but the "class" attribute.
+class ClassPredicate final : public Predicate {
+public:
+    explicit ClassPredicate(const std::string &name) : Predicate({}), name_(name) {}
+
+    bool holds(NodeRec *element) override { return name_.isIn(element); }
+    Walk walk() const override { return Walk::Index; }
+    Found findIn(NodeRec *top) override {
+        const ClassIndex *index = ClassIndex::of(top);
+        if (!index)
+            return findInColumn(top, &Columns::classes, &Columns::classExamples,
+                                [this](const NodeRec *element) { return name_.isIn(element); });
+        Found found;
+        index->forEachIn(top, [&](ClassIndex::Entry entry) {
+            if (name_.isIn(at<AttrRec>(entry.attr)->text())) found.push_back(at<NodeRec>(entry.element));
+        });
+        return found;
+    }
+
+private:
+    ClassName name_;
+};
 
 } // namespace
 
@@ -72,8 +91,7 @@ PredicatePtr Evaluator::TagEndsWith::compile(Scope &) const {
 }
 
 PredicatePtr Evaluator::Class::compile(Scope &) const {
-    return makeClassTest(
-        [name = ClassName(className_)](const NodeRec *element) { return name.isIn(element); });
+    return std::make_unique<ClassPredicate>(className_);
 }
 
 PredicatePtr Evaluator::Id::compile(Scope &) const {
@@ -115,8 +133,7 @@ PredicatePtr Evaluator::AttributeWithValue::compile(Scope &) const {
 
 PredicatePtr Evaluator::AttributeWithValueNot::compile(Scope &) const {
     return makeLeaf([reader = AttrReader(key()), this](NodeRec *element) {
-        if (!reader.isOn(element)) return !value().empty();
-        return !reader.holds(element, [this](std::string_view text) { return equalsLower(text, value()); });
+        return reader.reads(element, [this](std::string_view text) { return !equalsLower(text, value()); });
     });
 }
 
