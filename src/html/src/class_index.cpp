@@ -9,7 +9,7 @@ namespace orl::html::core {
 
 namespace {
 
-constexpr std::uint32_t smallest = 30, largest = 8190; // with the head, whole multiples of 256 bytes
+constexpr std::uint32_t smallest = 254, largest = 8190; // with the head, whole KiB
 
 } // namespace
 
@@ -37,9 +37,10 @@ void ClassIndex::addBlock(Arena &arena) {
     last_ = block;
 }
 
-void ClassIndex::finish(Arena &arena) {
+void ClassIndex::finish(Arena &arena, NodeRec *page) {
     if (state_ != State::Filling) return;
     if (!arena.isInOneRow()) return drop();
+    page_ = page;
     version_ = arena.version;
     chunks_ = arena.chunkCount();
     end_ = arena.nextRecord();

@@ -30,11 +30,16 @@ public:
     /// The order is broken.
     void drop() { state_ = State::Dropped; }
     /// The page is parsed; the index holds as long as the arena is at this version and has no other chunks.
-    void finish(Arena &arena);
+    void finish(Arena &arena, NodeRec *page);
 
     /// The arena's index, if the node is of the tree that was parsed and nothing has changed since; else
     /// null. The addresses of that tree's nodes grow in document order.
     static const ClassIndex *of(const NodeRec *node);
+
+    /// The document that was parsed.
+    NodeRec *page() const { return page_; }
+    /// Whether there are enough entries for searches to be worth some preparation.
+    bool isLong() const { return first_ && first_->next; }
 
     /// Calls `visit` with each entry of the node and of what is below it.
     template<class Visit>
@@ -74,6 +79,7 @@ private:
     void addBlock(Arena &arena);
 
     Block *first_ = nullptr, *last_ = nullptr;
+    NodeRec *page_ = nullptr;
     std::uint64_t version_ = 0;
     std::uint32_t chunks_ = 0;
     Ref newest_ = 0; ///< the element that was noted last

@@ -462,6 +462,7 @@ public:
 
 private:
     friend void hold(NodeRec *node);
+    friend void holdAll(NodeRec *const *nodes, std::size_t count);
     friend void release(NodeRec *node);
     friend void dropIfUnheld(NodeRec *node);
     friend void dropChildren(NodeRec *node);
@@ -597,6 +598,18 @@ inline void hold(NodeRec *node) {
         ++node->holders;
     else
         arenaOf(node).holdMore(node);
+}
+
+/// The same for several nodes of one arena, at least one.
+inline void holdAll(NodeRec *const *nodes, std::size_t count) {
+    Arena &arena = arenaOf(*nodes);
+    arena.held_ += count;
+    for (NodeRec *const *node = nodes; node != nodes + count; ++node) {
+        if ((*node)->holders != NodeRec::manyHolders) [[likely]]
+            ++(*node)->holders;
+        else
+            arena.holdMore(*node);
+    }
 }
 
 inline void release(NodeRec *node) {

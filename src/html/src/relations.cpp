@@ -43,11 +43,15 @@ public:
             [](const PredicatePtr &left, const PredicatePtr &right) { return left->walk() > right->walk(); });
     }
 
-    bool holds(NodeRec *element) override { return holdsFrom(0, element); }
+    bool holds(NodeRec *element) override {
+        return std::ranges::all_of(parts_,
+                                   [element](const PredicatePtr &part) { return part->holds(element); });
+    }
     Found findIn(NodeRec *top) override {
         if (parts_.empty()) return Predicate::findIn(top);
         Found found = parts_.front()->findIn(top);
-        std::erase_if(found, [this](NodeRec *element) { return !holdsFrom(1, element); });
+        for (std::size_t i = 1; i < parts_.size(); ++i)
+            parts_[i]->filter(found);
         return found;
     }
     void rootChanged() override {
@@ -58,11 +62,6 @@ public:
 
 private:
     static Walk walkOf(const PredicatePtr &part) { return part->walk(); }
-    bool holdsFrom(std::size_t first, NodeRec *element) {
-        for (std::size_t i = first; i < parts_.size(); ++i)
-            if (!parts_[i]->holds(element)) return false;
-        return true;
-    }
 
     std::vector<PredicatePtr> parts_;
 };

@@ -1,5 +1,6 @@
 // The predicates that ask others: about the same element, those above it, beside it and below it.
 #include "class_index.h"
+#include "columns.h"
 #include "node_marks.h"
 #include "orl/html/evaluator.h"
 #include "orl/html/exception.h"
@@ -86,6 +87,20 @@ public:
         }
         return answer;
     }
+    /// Many elements, and an inner predicate that finds its own fast: what stands inside one of those stays.
+    void filter(Found &elements) override {
+        if (elements.size() < many || inner_->walk() != Walk::Index || !isOrdered() ||
+            !hasClassColumn(*ClassIndex::of(scope_.root)))
+            return Predicate::filter(elements);
+        const Found outer = inner_->findIn(scope_.root);
+        auto next = outer.begin();
+        Ref end = 0; // of the last of them that is in no other
+        std::erase_if(elements, [&](const NodeRec *element) {
+            for (; next != outer.end() && refOf(*next) < refOf(element); ++next)
+                if (refOf(*next) >= end) end = ClassIndex::endOf(*next);
+            return refOf(element) >= end;
+        });
+    }
     void rootChanged() override {
         inner_->rootChanged();
         answers_.clear();
@@ -95,14 +110,19 @@ public:
 
 private:
     enum class Order { Unasked, None, OfAddresses };
+    static constexpr std::size_t many = 64;
     static constexpr int few = 8; ///< steps that cost less than keeping what they tell
 
     NodeRec *next(NodeRec *element) const { return element == scope_.root ? nullptr : parentOf(element); }
 
+    bool isOrdered() {
+        if (order_ == Order::Unasked) order_ = ClassIndex::of(scope_.root) ? Order::OfAddresses : Order::None;
+        return order_ == Order::OfAddresses;
+    }
+
     /// Keeps the match and where it ends, if that is near.
     bool remember(const NodeRec *match) {
-        if (order_ == Order::Unasked) order_ = ClassIndex::of(scope_.root) ? Order::OfAddresses : Order::None;
-        if (order_ == Order::None) return true;
+        if (!isOrdered()) return true;
         match_ = matchEnd_ = 0;
         const NodeRec *node = match;
         for (int steps = 0; steps < few && !node->next; ++steps) {

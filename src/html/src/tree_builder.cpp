@@ -18,7 +18,7 @@ Document TreeBuilder::parse(std::string_view input, std::string_view baseUri, Pa
     Document document(doc_);
     arena->classes.start();
     runParser();
-    arena->classes.finish(*arena);
+    arena->classes.finish(*arena, doc_);
     return document;
 }
 
