@@ -76,6 +76,8 @@ QString CommandLine::help() {
   messages COUNTRY NUMBER      the messages of a number, newest at the bottom
       --watch                  stay, and print each new message as it arrives
 
+  html COMMAND                 the document engine for files of your own: orl-cli html --help
+
   --json                       JSON instead of text: one list, with --watch one object per line
   --endpoints FILE             read the endpoints of FILE (lines of key=value) instead of those of the build;
                                ORL_ENDPOINTS names such a file too
