@@ -114,6 +114,8 @@ QString CommandLine::help() {
   history                      the numbers that were chosen, newest first
       --data FOLDER            of both: the application's data in FOLDER
 
+  html COMMAND                 the document engine for files of your own: orl-cli html --help
+
   --json                       JSON instead of text: one list, with --watch one object per line
   --endpoints FILE             read the endpoints of FILE (lines of key=value) instead of those of the build;
                                ORL_ENDPOINTS names such a file too

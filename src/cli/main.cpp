@@ -1,9 +1,11 @@
 #include "cli/commands.h"
+#include "cli/html_command.h"
 #include "cli/port_watch.h"
 #include "demo/endpoints_in_force.h"
 #include "platform/qt/linux_platform.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QTemporaryDir>
 #include <QTextStream>
 
@@ -59,13 +61,31 @@ int runCommand(const CommandLine &line, const Endpoints &endpoints) {
     return code;
 }
 
+/// Nothing is flushed in between: a page may have many lines.
+int runHtml(const QStringList &arguments) {
+    const ExitCode code = runHtmlCommand(
+        arguments, {[] {
+                        QFile input;
+                        return input.open(stdin, QIODevice::ReadOnly) ? input.readAll() : QByteArray();
+                    },
+                    [](std::string_view line) {
+                        std::fwrite(line.data(), 1, line.size(), stdout);
+                        std::fputc('\n', stdout);
+                    },
+                    [](const QString &notice) { printLine(stderr, QStringLiteral("orl-cli: ") + notice); }});
+    return int(code);
+}
+
 } // namespace
 
 int main(int argc, char **argv) {
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("orl"));
 
-    const Result<CommandLine> line = CommandLine::parse(QCoreApplication::arguments());
+    const QStringList typed = QCoreApplication::arguments();
+    if (typed.value(1) == QLatin1String("html")) return runHtml(typed.mid(2));
+
+    const Result<CommandLine> line = CommandLine::parse(typed);
     if (!line.ok())
         return endWith(ExitCode::WrongUse, line.error().description + QStringLiteral(" (see --help)"));
     if (line.value().command == CommandLine::Command::Help) {
