@@ -1,3 +1,4 @@
+#include "screens/review_prompt.h"
 #include "screens/screens.h"
 #include "screens_phone.h"
 
@@ -68,9 +69,15 @@ protected:
     }
 
     void show() {
+        showSplash();
+        if (content->splashIsPresented()) phone.advance(SplashView::wait + SplashView::fade);
+    }
+
+    void showSplash() {
         engine_ = std::make_unique<QQmlApplicationEngine>();
         prepareScreens(*engine_, process->platform());
-        engine_->setInitialProperties({{QStringLiteral("content"), QVariant::fromValue(content.get())}});
+        engine_->setInitialProperties({{QStringLiteral("content"), QVariant::fromValue(content.get())},
+                                       {QStringLiteral("reviewPrompt"), QVariant::fromValue(&prompt_)}});
         engine_->load(QUrl(QString::fromLatin1(mainWindow)));
         window_ = qobject_cast<QQuickWindow *>(engine_->rootObjects().value(0));
         ASSERT_NE(window_, nullptr) << complaints.join(u'\n').toStdString();
@@ -164,6 +171,7 @@ private:
     std::unique_ptr<QQmlApplicationEngine> engine_;
 
 protected:
+    ReviewPrompt prompt_{browser, QUrl()};
     QQuickWindow *window_ = nullptr;
 };
 
@@ -238,6 +246,65 @@ TEST_P(LayoutTest, HomeWithoutMessages) {
     look("fetching-messages");
     phone.urls.release(messagesUrl);
     look("nothing-yet");
+}
+
+TEST_P(LayoutTest, Start) {
+    phone.bundle.infoValues[QStringLiteral("CFBundleDisplayName")] = QStringLiteral("Orl");
+    tracking.current = TrackingStatus::NotDetermined;
+    makeContent();
+    showSplash();
+    look("splash");
+    phone.advance(SplashView::wait);
+    look("idfa");
+}
+
+TEST_P(LayoutTest, Tabs) {
+    makeHome(lively);
+    phone.urls.answer(QStringLiteral("https://first.example/en/numbers/15550122"), test::messagePage({}));
+    request().chooseNumber(test::country(QStringLiteral("Niger")),
+                           test::phoneNumber(QStringLiteral("+1 555 0122")), false);
+    phone.settle();
+    phone.clock.setNow(phone.clock.now() + 100000);
+    request().chooseNumber(test::country(QStringLiteral("Norway")),
+                           test::phoneNumber(QStringLiteral("+1 555 0100")), false);
+    phone.settle();
+    request().loadHistory();
+    show();
+    MainView &main = *content->main();
+    main.select(1);
+    look("mail");
+    main.select(2);
+    look("identity");
+    main.select(3);
+    look("settings");
+    SettingsView &settings = *main.settings();
+    settings.setMessageSoundEnabled(false);
+    settings.tap(7);
+    look("share");
+    settings.shareSheet()->dismiss();
+    settings.tap(0);
+    look("history");
+    used(3);
+    settings.history()->tap(1);
+    look("limit");
+    settings.history()->choice()->dismissLimit();
+    settings.history()->tap(0);
+    look("current-number");
+    settings.history()->dismissCurrentNumberAlert();
+    settings.closeHistory();
+    prompt_.requestReview();
+    look("review");
+}
+
+TEST_P(LayoutTest, NoHistory) {
+    makeHome();
+    phone.store.values.erase(QStringLiteral("history_key"));
+    restartScreens();
+    makeContent();
+    show();
+    content->main()->select(3);
+    content->main()->settings()->tap(0);
+    look("no-history");
 }
 
 INSTANTIATE_TEST_SUITE_P(Looks, LayoutTest, testing::ValuesIn(looks),
