@@ -38,6 +38,8 @@ Application::Application(const Options &options, const Endpoints &endpoints)
                      QDBusConnection::sessionBus()),
       mailComposer_(base_.mainQueue, QDesktopServices::openUrl),
       background_(base_.clock, base_.mainQueue, scene_, {AppDelegate::fetchingKey, AppDelegate::cleaningKey}),
+      storePages_(base_.endpoints.storeHost),
+      reviewPrompt_(browser_, StoreLinks(base_).review),
       process_(platform()),
       delegate_(process_),
       content_(process_, appearance_) {
@@ -67,6 +69,7 @@ Platform Application::platform() {
             .pasteboard = pasteboard_,
             .browser = browser_,
             .mailComposer = mailComposer_,
+            .storeReview = reviewPrompt_,
             .scene = scene_,
             .background = background_};
 }
@@ -79,7 +82,8 @@ int Application::run() {
 
 bool Application::show() {
     prepareScreens(engine_, process_.platform());
-    engine_.setInitialProperties({{QStringLiteral("content"), QVariant::fromValue(&content_)}});
+    engine_.setInitialProperties({{QStringLiteral("content"), QVariant::fromValue(&content_)},
+                                  {QStringLiteral("reviewPrompt"), QVariant::fromValue(&reviewPrompt_)}});
     engine_.load(QUrl(QString::fromLatin1(mainWindow)));
     if (auto *window = qobject_cast<QWindow *>(engine_.rootObjects().value(0))) window_.follow(*window);
     return !engine_.rootObjects().isEmpty();
@@ -87,13 +91,17 @@ bool Application::show() {
 
 void Application::awaitPicture() {
     process_.platform().mainQueue.postAfter(picturePatience, [] { QGuiApplication::exit(noMessages); });
-    const auto whenShown = [this, waiting = false]() mutable {
-        const HomeView *home = content_.home();
-        if (waiting || !home || home->state() != HomeView::State::Messages) return;
-        waiting = true;
-        process_.platform().mainQueue.postAfter(settling, [this] { savePicture(); });
-    };
-    QObject::connect(&content_.requestVM(), &RequestViewModel::messagesChanged, &content_, whenShown);
+    const auto look = [this] { takePictureOnceComplete(); };
+    QObject::connect(&content_.requestVM(), &RequestViewModel::messagesChanged, &content_, look);
+    QObject::connect(&content_, &ContentView::splashIsPresentedChanged, &content_, look);
+}
+
+void Application::takePictureOnceComplete() {
+    const HomeView *home = content_.home();
+    if (pictureIsDue_ || content_.splashIsPresented()) return;
+    if (!home || home->state() != HomeView::State::Messages) return;
+    pictureIsDue_ = true;
+    process_.platform().mainQueue.postAfter(settling, [this] { savePicture(); });
 }
 
 void Application::savePicture() {

@@ -4,6 +4,7 @@
 #include "app/desktop_appearance.h"
 #include "app/options.h"
 #include "app/start_choice.h"
+#include "app/store_pages.h"
 #include "app/window_scene.h"
 #include "platform/process.h"
 #include "platform/qt/desktop_mail_composer.h"
@@ -13,6 +14,7 @@
 #include "platform/qt/linux_platform.h"
 #include "platform/queued_background_scheduler.h"
 #include "screens/content_view.h"
+#include "screens/review_prompt.h"
 
 #include <QQmlApplicationEngine>
 
@@ -42,6 +44,7 @@ private:
     Platform platform();
     bool show();
     void awaitPicture();
+    void takePictureOnceComplete();
     void savePicture();
 
     const Options options_;
@@ -55,6 +58,8 @@ private:
     DesktopNotifications notifications_;
     DesktopMailComposer mailComposer_;
     QueuedBackgroundScheduler background_;
+    StorePages storePages_;
+    ReviewPrompt reviewPrompt_;
     Process process_;
     AppDelegate delegate_;
     Appearance appearance_;
@@ -62,6 +67,7 @@ private:
     ContentView content_;
     std::unique_ptr<StartChoice> startChoice_;
     QQmlApplicationEngine engine_;
+    bool pictureIsDue_ = false;
 };
 
 } // namespace orl

@@ -9,6 +9,7 @@
 #include "screens/copy_view_model.h"
 #include "screens/gradient_ink.h"
 #include "screens/message_text.h"
+#include "screens/review.h"
 
 #include <QPointer>
 
@@ -42,7 +43,8 @@ HomeView::HomeView(Process &process, RequestViewModel &request, InternetViewMode
                     const SMSSender *listed = senders_.named(sender.name);
                     return listed ? *listed : sender;
                 }),
-      choice_(process, request) {
+      choice_(process, request),
+      currentNumber_(request.currentNumber()) {
     connect(&request_, &RequestViewModel::currentCountryChanged, this, &HomeView::numberChanged);
     connect(&request_, &RequestViewModel::currentNumberChanged, this, &HomeView::changeNumber);
     connect(&request_, &RequestViewModel::messagesChanged, this, &HomeView::showMessages);
@@ -133,6 +135,7 @@ void HomeView::appear() {
     process_.platform().mainQueue.postAfter(inlineBannerAfter, [self = QPointer(this)] {
         if (self) self->setShowINBaner(true);
     });
+    Review(process_).requestReviewIfNeeded();
 }
 
 void HomeView::setShowINBaner(bool shown) {
@@ -151,7 +154,11 @@ void HomeView::noteFetch() {
     Q_EMIT stateChanged();
 }
 
+/// The choice is read from the store again and again; only another number empties the list.
 void HomeView::changeNumber() {
+    const auto number = request_.currentNumber();
+    if (number == currentNumber_) return;
+    currentNumber_ = number;
     fetched_ = false;
     Q_EMIT numberChanged();
     showSimilar();

@@ -132,6 +132,7 @@ private:
     MessageCards messages_;
     NumberRows similar_;
     NumberChoice choice_;
+    std::optional<PhoneNumber> currentNumber_; ///< whose messages are shown
     std::unique_ptr<CountriesView, QScopedPointerDeleteLater> countries_;
     std::unique_ptr<RepeatingTimer> timer_;
 };

@@ -36,8 +36,8 @@ Q_SIGNALS:
     void countChanged();
 
 protected:
-    /// Brings the rows into the order of these keys, which must be unique. While it runs, views may ask for
-    /// rows that are about to go and for rows that have just come.
+    /// Brings the rows into the order of these keys, which must be unique. While it runs, a view may ask
+    /// for rows that are about to go.
     void arrange(const QStringList &keys);
 
     /// Tells views that these roles may have changed in all rows.

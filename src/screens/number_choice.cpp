@@ -1,5 +1,6 @@
 #include "screens/number_choice.h"
 
+#include "ads/pop_up_ad.h"
 #include "numbers/request_view_model.h"
 #include "numbers/text_helpers.h"
 #include "platform/haptics.h"
@@ -7,7 +8,10 @@
 namespace orl {
 
 NumberChoice::NumberChoice(Process &process, RequestViewModel &request, QObject *parent)
-    : QObject(parent), process_(process), request_(request) {}
+    : QObject(parent), process_(process), request_(request), limitAlert_(process, limitReached(), 94, 40) {
+    connect(&limitAlert_, &CustomAlertView::tapped, this, &NumberChoice::watch);
+    connect(&limitAlert_, &CustomAlertView::cancel, this, &NumberChoice::dismissLimit);
+}
 
 QString NumberChoice::title() const {
     const QString number = selectedPhone_ ? selectedPhone_->number : QString();
@@ -20,15 +24,13 @@ QString NumberChoice::message() {
 QString NumberChoice::confirmTitle() {
     return QStringLiteral("Choose this Number");
 }
-QString NumberChoice::limitTitle() {
-    return QStringLiteral("Limit Reached").toUpper();
-}
-QString NumberChoice::limitMessage() {
-    return QStringLiteral("Watch a video to increase\nphone numbers limit");
-}
 
 void NumberChoice::tap(const Country &country, const PhoneNumber &number) {
     process_.platform().haptics.impact(Impact::Soft);
+    ask(country, number);
+}
+
+void NumberChoice::ask(const Country &country, const PhoneNumber &number) {
     country_ = country;
     selectedPhone_ = number;
     if (request_.mayChoose())
@@ -47,6 +49,12 @@ void NumberChoice::confirm() {
 void NumberChoice::cancel() {
     setConfirmationSheet(false);
 }
+
+void NumberChoice::watch() {
+    setShowLimitAlert(false);
+    process_.shared<PopUpAd>().showRewarded();
+}
+
 void NumberChoice::dismissLimit() {
     setShowLimitAlert(false);
 }

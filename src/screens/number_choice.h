@@ -2,6 +2,7 @@
 
 #include "numbers/records.h"
 #include "platform/process.h"
+#include "screens/custom_alert_view.h"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
@@ -22,8 +23,7 @@ class NumberChoice : public QObject {
     Q_PROPERTY(QString title READ title NOTIFY confirmationSheetChanged)
     Q_PROPERTY(QString message READ message CONSTANT)
     Q_PROPERTY(QString confirmTitle READ confirmTitle CONSTANT)
-    Q_PROPERTY(QString limitTitle READ limitTitle CONSTANT)
-    Q_PROPERTY(QString limitMessage READ limitMessage CONSTANT)
+    Q_PROPERTY(orl::CustomAlertView *limitAlert READ limitAlert CONSTANT)
 public:
     NumberChoice(Process &process, RequestViewModel &request, QObject *parent = nullptr);
 
@@ -34,14 +34,17 @@ public:
     QString title() const; ///< the number in its country's format, below a compliment
     static QString message();
     static QString confirmTitle();
-    static QString limitTitle();
-    static QString limitMessage();
+    CustomAlertView *limitAlert() { return &limitAlert_; }
 
-    /// Asks for a confirmation, or tells that the allowance is used up.
+    /// A tap on a number's card, which is felt.
     void tap(const Country &country, const PhoneNumber &number);
+    /// Asks for a confirmation, or tells that the allowance is used up.
+    void ask(const Country &country, const PhoneNumber &number);
 
     Q_INVOKABLE void confirm();
     Q_INVOKABLE void cancel();
+    /// Refills the allowance with a video.
+    void watch();
     Q_INVOKABLE void dismissLimit();
 
 Q_SIGNALS:
@@ -57,6 +60,7 @@ private:
     RequestViewModel &request_;
     Country country_;
     std::optional<PhoneNumber> selectedPhone_;
+    CustomAlertView limitAlert_;
     bool confirmationSheet_ = false;
     bool showLimitAlert_ = false;
 };

@@ -16,26 +16,27 @@ SenderCards::SenderCards(const RequestViewModel &request, QObject *parent)
 
 void SenderCards::show(const QList<SMSSender> &senders) {
     QStringList keys;
-    QHash<QString, SMSSender> byName;
-    for (const SMSSender &sender : senders) {
-        if (isAd(sender) || sender.messages.isEmpty() || byName.contains(sender.name)) continue;
+    QHash<QString, qsizetype> places;
+    for (qsizetype i = 0; i < senders.size(); ++i) {
+        const SMSSender &sender = senders[i];
+        if (isAd(sender) || sender.messages.isEmpty() || places.contains(sender.name)) continue;
         keys << sender.name;
-        byName.insert(sender.name, sender);
+        places.insert(sender.name, i);
     }
-    senders_.insert(byName);
+    senders_ = senders;
+    places_ = places;
     arrange(keys);
-    senders_ = byName;
     changed({"content", "time", "unseen", "face"});
 }
 
 const SMSSender *SenderCards::named(const QString &name) const {
-    const auto found = senders_.constFind(name);
-    return found == senders_.cend() ? nullptr : &*found;
+    const auto place = places_.constFind(name);
+    return place == places_.cend() ? nullptr : &senders_[*place];
 }
 
 QVariant SenderCards::shown(const QString &key, qsizetype role) const {
-    const auto sender = senders_.constFind(key);
-    if (sender == senders_.cend()) return {};
+    const SMSSender *sender = named(key);
+    if (!sender) return {};
     const Message &last = sender->messages.front();
     switch (Role(role)) {
     case Name: return sender->name;

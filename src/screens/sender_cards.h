@@ -18,7 +18,7 @@ public:
     /// Shows these senders but for the places of ads.
     void show(const QList<SMSSender> &senders);
 
-    const SMSSender &at(int row) const { return *senders_.constFind(key(row)); }
+    const SMSSender &at(int row) const { return *named(key(row)); }
 
     /// The sender of this name as the list has it; null where it is not listed.
     const SMSSender *named(const QString &name) const;
@@ -28,7 +28,8 @@ protected:
 
 private:
     const RequestViewModel &request_;
-    QHash<QString, SMSSender> senders_; ///< by name, which is unique among senders
+    QList<SMSSender> senders_;
+    QHash<QString, qsizetype> places_; ///< in senders_, by name, which is unique among senders
 };
 
 } // namespace orl

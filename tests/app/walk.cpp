@@ -46,6 +46,14 @@ protected:
         program = desk.start(programPath, {QStringLiteral("--data"), data.path()});
         ASSERT_TRUE(QTest::qWaitFor([this] { return root().has_value(); }, 60000))
             << "it never came to the bus";
+        // Nothing behind the splash can be used before it has gone; it is there ahead of the root screen.
+        const Fits splash = named(QStringLiteral("Virtual Phone Numbers"));
+        const Fits rootScreen = [](const Accessible &control) {
+            return control.name() == QStringLiteral("Tabs") ||
+                   control.name() == QStringLiteral("Phone Code or Country...");
+        };
+        ASSERT_TRUE(wait(rootScreen)) << "no screen came";
+        ASSERT_TRUE(QTest::qWaitFor([&] { return all(splash).isEmpty(); }, 60000)) << "the splash stays";
     }
 
     /// As when the phone's battery is taken out.

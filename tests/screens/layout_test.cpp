@@ -1,5 +1,4 @@
-#include "screens/conversation_view.h"
-#include "screens/full_swipe_pop_helper.h"
+#include "screens/review_prompt.h"
 #include "screens/screens.h"
 #include "screens_phone.h"
 
@@ -73,25 +72,16 @@ protected:
     }
 
     void show() {
-        makeEngine({{QStringLiteral("content"), QVariant::fromValue(content.get())}});
-        engine_->load(QUrl(QString::fromLatin1(mainWindow)));
-        takeWindow();
+        showSplash();
+        if (content->splashIsPresented()) phone.advance(SplashView::wait + SplashView::fade);
     }
 
-    /// A window with nothing but this in it.
-    void show(const QByteArray &qml, const QVariantMap &properties) {
-        makeEngine(properties);
-        engine_->loadData(qml);
-        takeWindow();
-    }
-
-    void makeEngine(const QVariantMap &properties) {
+    void showSplash() {
         engine_ = std::make_unique<QQmlApplicationEngine>();
         prepareScreens(*engine_, process->platform());
-        engine_->setInitialProperties(properties);
-    }
-
-    void takeWindow() {
+        engine_->setInitialProperties({{QStringLiteral("content"), QVariant::fromValue(content.get())},
+                                       {QStringLiteral("reviewPrompt"), QVariant::fromValue(&prompt_)}});
+        engine_->load(QUrl(QString::fromLatin1(mainWindow)));
         window_ = qobject_cast<QQuickWindow *>(engine_->rootObjects().value(0));
         ASSERT_NE(window_, nullptr) << complaints.join(u'\n').toStdString();
         window_->resize(GetParam().width, GetParam().height);
@@ -199,11 +189,12 @@ private:
     }
 
     QtMessageHandler previous_ = nullptr;
+    std::unique_ptr<QQmlApplicationEngine> engine_;
     QPointingDevice *finger_ = nullptr;
     QPoint last_;
 
 protected:
-    std::unique_ptr<QQmlApplicationEngine> engine_;
+    ReviewPrompt prompt_{browser, QUrl()};
     QQuickWindow *window_ = nullptr;
 };
 
@@ -264,33 +255,6 @@ TEST_P(LayoutTest, Home) {
     look("change-countries");
 }
 
-constexpr char conversationOverHome[] = R"(
-    import QtQuick
-    import Orl.Screens
-    Window {
-        id: root
-        required property Appearance appearance
-        required property HomeView home
-        required property ConversationView conversation
-        required property FullSwipePopHelper swipe
-        visible: true
-        color: Theme.background
-        LayoutMirroring.enabled: appearance.rightToLeft
-        LayoutMirroring.childrenInherit: true
-        Binding { target: Theme; property: "dark"; value: root.appearance.dark }
-        Binding { target: Theme; property: "textScale"; value: root.appearance.textScale }
-        Binding { target: Theme; property: "reducedMotion"; value: root.appearance.reducedMotion }
-        FullSwipePop {
-            anchors.fill: parent
-            helper: root.swipe
-            content: Component { ConversationScreen { view: root.conversation } }
-            HomeScreen {
-                anchors.fill: parent
-                view: root.home
-            }
-        }
-    })";
-
 TEST_P(LayoutTest, Conversation) {
     QList<Sms> messages = lively;
     for (int i = 1; i <= 6; ++i) {
@@ -300,12 +264,7 @@ TEST_P(LayoutTest, Conversation) {
     messages << Sms{ConversationView::otherSide(), QStringLiteral("Is 12345 right?"), {}};
     phone.urls.answer(secondPageUrl, test::messagePage({}));
     makeHome(messages);
-    ConversationView conversation(*process, request(), *content->copyVM());
-    FullSwipePopHelper swipe(request());
-    show(conversationOverHome, {{QStringLiteral("appearance"), QVariant::fromValue(&appearance)},
-                                {QStringLiteral("home"), QVariant::fromValue(content->home())},
-                                {QStringLiteral("conversation"), QVariant::fromValue(&conversation)},
-                                {QStringLiteral("swipe"), QVariant::fromValue(&swipe)}});
+    show();
     content->home()->showSenders();
     content->home()->tapSender(0);
     look("conversation");
@@ -325,7 +284,6 @@ TEST_P(LayoutTest, Conversation) {
     request().setSelectedConversation(std::nullopt);
     request().setConversation_isPresented(true);
     look("conversation-empty");
-    engine_.reset();
 }
 
 TEST_P(LayoutTest, HomeWithoutMessages) {
@@ -342,6 +300,65 @@ TEST_P(LayoutTest, HomeWithoutMessages) {
     look("fetching-messages");
     phone.urls.release(messagesUrl);
     look("nothing-yet");
+}
+
+TEST_P(LayoutTest, Start) {
+    phone.bundle.infoValues[QStringLiteral("CFBundleDisplayName")] = QStringLiteral("Orl");
+    tracking.current = TrackingStatus::NotDetermined;
+    makeContent();
+    showSplash();
+    look("splash");
+    phone.advance(SplashView::wait);
+    look("idfa");
+}
+
+TEST_P(LayoutTest, Tabs) {
+    makeHome(lively);
+    phone.urls.answer(QStringLiteral("https://first.example/en/numbers/15550122"), test::messagePage({}));
+    request().chooseNumber(test::country(QStringLiteral("Niger")),
+                           test::phoneNumber(QStringLiteral("+1 555 0122")), false);
+    phone.settle();
+    phone.clock.setNow(phone.clock.now() + 100000);
+    request().chooseNumber(test::country(QStringLiteral("Norway")),
+                           test::phoneNumber(QStringLiteral("+1 555 0100")), false);
+    phone.settle();
+    request().loadHistory();
+    show();
+    MainView &main = *content->main();
+    main.select(1);
+    look("mail");
+    main.select(2);
+    look("identity");
+    main.select(3);
+    look("settings");
+    SettingsView &settings = *main.settings();
+    settings.setMessageSoundEnabled(false);
+    settings.tap(7);
+    look("share");
+    settings.shareSheet()->dismiss();
+    settings.tap(0);
+    look("history");
+    used(3);
+    settings.history()->tap(1);
+    look("limit");
+    settings.history()->choice()->dismissLimit();
+    settings.history()->tap(0);
+    look("current-number");
+    settings.history()->dismissCurrentNumberAlert();
+    settings.closeHistory();
+    prompt_.requestReview();
+    look("review");
+}
+
+TEST_P(LayoutTest, NoHistory) {
+    makeHome();
+    phone.store.values.erase(QStringLiteral("history_key"));
+    restartScreens();
+    makeContent();
+    show();
+    content->main()->select(3);
+    content->main()->settings()->tap(0);
+    look("no-history");
 }
 
 INSTANTIATE_TEST_SUITE_P(Looks, LayoutTest, testing::ValuesIn(looks),

@@ -3,6 +3,7 @@
 #include "numbers/numbers_phone.h"
 #include "platform/browser.h"
 #include "platform/pasteboard.h"
+#include "played_services.h"
 #include "screens/content_view.h"
 
 #include <QUrl>
@@ -64,11 +65,7 @@ struct ScreensTest : NumbersTest {
     void restartScreens() {
         phone.endProcess();
         content.reset();
-        const Platform base = playedWith(phone.platform(), notifications, haptics);
-        process = std::make_unique<Process>(Platform{base.clock, base.mainQueue, base.globalQueue,
-                                                     base.urlReader, base.store, base.reachability,
-                                                     base.bundle, base.console, base.fatal, base.endpoints,
-                                                     base.notifications, base.haptics, pasteboard, browser});
+        process = std::make_unique<Process>(platform());
         setAds(false);
     }
 
@@ -93,11 +90,55 @@ struct ScreensTest : NumbersTest {
         return *content->home();
     }
 
+    Platform platform() {
+        const Platform base = phone.platform();
+        return {.clock = base.clock,
+                .mainQueue = base.mainQueue,
+                .globalQueue = base.globalQueue,
+                .urlReader = base.urlReader,
+                .store = base.store,
+                .reachability = base.reachability,
+                .bundle = base.bundle,
+                .console = base.console,
+                .fatal = base.fatal,
+                .endpoints = base.endpoints,
+                .notifications = notifications,
+                .haptics = haptics,
+                .pasteboard = pasteboard,
+                .browser = browser,
+                .ads = ads,
+                .consent = consent,
+                .tracking = tracking,
+                .push = push,
+                .mailComposer = mail,
+                .storeReview = storeReview,
+                .scene = scene};
+    }
+
+    /// The remote document arrives with everything on.
+    void answerConfiguration() {
+        phone.urls.answer(QStringLiteral("https://configuration.example/KeLo/iOS/orl_config.json"),
+                          R"({"admob": {"ipad_ad_enabled": true, "banner_ad_enabled": true,
+            "open_ad_enabled": true, "reward_ad_enabled": true, "native_ad_enabled": true,
+            "interstitial_ad_enabled": true, "show_full_ad_after": 3, "use_xmark_native": false},
+            "black_banner": {"is_active": false, "on_number_card": false, "random_display": [false]}})");
+    }
+
+    /// How many actions of the user count towards the next full-screen ad.
+    qint64 actionsCounted() const { return phone.store.integer(QStringLiteral("SHOW_AD_AFTER")); }
+
     void used(qint64 choices) { phone.store.setValue(QStringLiteral("chose_numbers_count_key"), choices); }
 
     const QString norwayUrl = QStringLiteral("https://first.example/en/norway");
     PlayedPasteboard pasteboard;
     PlayedBrowser browser;
+    PlayedAds ads;
+    PlayedConsent consent;
+    PlayedTracking tracking;
+    PlayedPush push;
+    PlayedMail mail;
+    PlayedStoreReview storeReview;
+    Scene scene;
     Appearance appearance;
     std::unique_ptr<ContentView> content;
 };

@@ -1,41 +1,34 @@
 import QtQuick
-import QtQuick.Layouts
 import Orl.Screens
 
 // First run: a country, then a number.
 Item {
     id: root
     required property ChoosePhoneView view
+    required property ContentView content
 
-    CountryList {
-        anchors.top: parent.top
-        anchors.bottom: parent.bottom
-        anchors.horizontalCenter: parent.horizontalCenter
-        width: Math.min(parent.width, Theme.columnWidth)
+    CustomNavigation {
+        anchors.fill: parent
         visible: !numbers.covers
         enabled: !root.view.isPresented
         focus: true
-        view: root.view
-        listHeader: ColumnLayout {
-            width: ListView.view ? ListView.view.width : 0
-            spacing: Theme.space1
-            Words {
-                text: "Select Country"
-                font.pixelSize: Theme.titleSize
-                font.weight: Font.Bold
-                Layout.fillWidth: true
-                Layout.margins: Theme.margin
-                Layout.bottomMargin: 0
-                Layout.topMargin: Theme.space5
-                Accessible.role: Accessible.Heading
-            }
-            Words {
+        placeHolder: "Phone Code or Country..."
+        title: "Select Country"
+        searchShown: root.view.state === CountryScreen.Sections
+        onSearch: text => root.content.search(text)
+        onCancel: root.content.cancelSearch()
+
+        CountryList {
+            anchors.fill: parent
+            focus: true
+            view: root.view
+            hasSearchBar: false
+            listHeader: Words {
+                x: Theme.margin
+                width: ListView.view ? ListView.view.width - 2 * Theme.margin : 0
+                bottomPadding: Theme.space2
                 text: "No wories, you can change it later."
                 color: Theme.secondary
-                Layout.fillWidth: true
-                Layout.leftMargin: Theme.margin
-                Layout.rightMargin: Theme.margin
-                Layout.bottomMargin: Theme.space2
             }
         }
     }

@@ -17,8 +17,8 @@ Rectangle {
     Accessible.role: Accessible.AlertMessage
     Accessible.name: "Copied to clipboard!"
 
-    Behavior on opacity { NumberAnimation { duration: Theme.motion } }
-    Behavior on scale { NumberAnimation { duration: Theme.motion; easing.type: Easing.OutBack } }
+    Behavior on opacity { NumberAnimation { duration: Theme.announcement; easing.type: Easing.OutQuint } }
+    Behavior on scale { NumberAnimation { duration: Theme.announcement; easing.type: Easing.OutBack } }
 
     RowLayout {
         id: row

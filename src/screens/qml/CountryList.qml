@@ -9,6 +9,7 @@ ColumnLayout {
     id: root
     required property CountryScreen view
     property alias listHeader: list.header
+    property bool hasSearchBar: true
 
     spacing: 0
 
@@ -66,7 +67,7 @@ ColumnLayout {
     }
     Rectangle {
         color: Theme.background
-        visible: root.view.state === CountryScreen.Sections
+        visible: root.hasSearchBar && root.view.state === CountryScreen.Sections
         implicitHeight: search.implicitHeight + 2 * Theme.space3
         Layout.fillWidth: true
 

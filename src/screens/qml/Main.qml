@@ -1,11 +1,14 @@
+// Components reach the screen by its id, which this lint takes for a name from nowhere.
+// qmllint disable unqualified
 import QtQuick
 import QtQuick.Templates as T
 import Orl.Screens
 
-// The window: the root screen, and above it what is said on every screen.
+// The window: the root screen, above it the splash, over both of them a conversation, and what is said on every screen.
 T.ApplicationWindow {
     id: root
     required property ContentView content
+    property ReviewPrompt reviewPrompt: null
 
     title: "orl"
     width: Theme.phoneWidth
@@ -24,23 +27,45 @@ T.ApplicationWindow {
     Binding { target: Theme; property: "reducedMotion"; value: root.content.appearance.reducedMotion }
     Binding { target: Theme; property: "keyboardInUse"; value: root.content.appearance.keyboardInUse }
 
-    Loader {
-        id: screen
+    FullSwipePop {
         anchors.fill: parent
         focus: true
-        function show() {
-            if (root.content.hasCountry) setSource("HomeScreen.qml", { view: root.content.home });
-            else setSource("ChoosePhoneScreen.qml", { view: root.content.chooser });
+        helper: root.content.swipe
+        content: ConversationScreen { view: root.content.conversation }
+
+        // Built behind the splash piece by piece, so that the first picture of the window does not wait for it.
+        Loader {
+            anchors.fill: parent
+            asynchronous: root.content.splashIsPresented
+            focus: !root.content.splashIsPresented
+            enabled: !root.content.splashIsPresented
+            sourceComponent: root.content.hasCountry ? mainScreen : chooser
         }
-        Component.onCompleted: show()
+        Loader {
+            anchors.fill: parent
+            active: root.content.splashIsPresented
+            focus: active
+            sourceComponent: SplashScreen { view: root.content.splash }
+        }
     }
-    Connections {
-        target: root.content
-        function onRootChanged() { screen.show(); }
+    Component {
+        id: mainScreen
+        MainScreen { view: root.content.main }
+    }
+    Component {
+        id: chooser
+        ChoosePhoneScreen {
+            view: root.content.chooser
+            content: root.content
+        }
     }
     CopiedBanner {
         anchors.centerIn: parent
         copyVM: root.content.copyVM
         z: 1
+    }
+    Loader {
+        active: root.reviewPrompt !== null && root.reviewPrompt.isPresented
+        sourceComponent: ReviewSheet { prompt: root.reviewPrompt }
     }
 }

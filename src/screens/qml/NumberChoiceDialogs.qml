@@ -15,11 +15,8 @@ Item {
         onAccepted: root.choice.confirm()
         onRejected: root.choice.cancel()
     }
-    Sheet {
+    CustomAlert {
         visible: root.choice.showLimitAlert
-        title: root.choice.limitTitle
-        message: root.choice.limitMessage
-        no: "Cancel"
-        onRejected: root.choice.dismissLimit()
+        alert: root.choice.limitAlert
     }
 }

@@ -49,15 +49,14 @@ Item {
         }
         NumberSkeleton { width: parent.width }
     }
-    StateMessage {
+    Error404 {
         anchors.fill: parent
         anchors.topMargin: bar.height
         visible: root.view.state === PhoneNumberView.Failed
-        drawing: "angry_cat"
         title: "Unknow Error!"
-        sentence: "Please check your internet connection, or change the country and try again."
-        button: "Try Again"
-        onActed: root.view.load()
+        subtitle: "Please check your internet connection, or change the country and try again."
+        btnTitle: "Try Again"
+        onAction: root.view.load()
     }
     TopBar {
         id: bar

@@ -30,6 +30,7 @@ FocusScope {
         }
         Words {
             id: sentence
+            visible: text !== ""
             color: Theme.secondary
             horizontalAlignment: Text.AlignHCenter
             Layout.fillWidth: true

@@ -24,6 +24,7 @@ QtObject {
 
     readonly property color bar: Qt.alpha(background, 0.9)
     readonly property color tint: Qt.alpha(accent, dark ? 0.16 : 0.1)
+    readonly property color off: dark ? "#4A515C" : "#8A93A3"
     readonly property color dim: Qt.alpha("black", dark ? 0.6 : 0.4)
     readonly property color clear: "transparent"
 
@@ -57,7 +58,10 @@ QtObject {
     readonly property int flagHeight: Math.round(flagWidth * 3 / 4)
     readonly property int symbol: Math.round(20 * Math.min(textScale, 1.6))
     readonly property int smallSymbol: Math.round(14 * Math.min(textScale, 1.6))
+    readonly property int chip: Math.round(32 * Math.min(textScale, 1.6))
     readonly property int drawing: 160
+    readonly property int appIcon: 96
+    readonly property int alertHeight: 400
 
     readonly property int phoneWidth: 390
     readonly property int phoneHeight: 844
@@ -68,5 +72,6 @@ QtObject {
     readonly property int motion: 180
     readonly property int travel: reducedMotion ? 0 : motion
     readonly property real pressedScale: reducedMotion ? 1 : 0.98
+    readonly property int announcement: 700
     readonly property int wait: 1400
 }

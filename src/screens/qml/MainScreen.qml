@@ -1,0 +1,54 @@
+// Components reach the screen by its id, which this lint takes for a name from nowhere.
+// qmllint disable unqualified
+import QtQuick
+import Orl.Screens
+
+// The tabs. A page is built when it is first selected and stays.
+FocusScope {
+    id: root
+    required property MainView view
+
+    FocusScope {
+        id: pages
+        anchors.top: parent.top
+        anchors.bottom: bar.top
+        anchors.left: parent.left
+        anchors.right: parent.right
+        focus: true
+
+        TabPage {
+            index: 0
+            selectedIndex: root.view.selectedIndex
+            sourceComponent: HomeScreen { view: root.view.home }
+        }
+        TabPage {
+            index: 1
+            selectedIndex: root.view.selectedIndex
+            sourceComponent: Unavailable {
+                title: "EMail"
+                sentence: "The mail service is not available in this build."
+            }
+        }
+        TabPage {
+            index: 2
+            selectedIndex: root.view.selectedIndex
+            sourceComponent: Unavailable {
+                title: "Identity"
+                sentence: "The identity service is not available in this build."
+            }
+        }
+        TabPage {
+            index: 3
+            selectedIndex: root.view.selectedIndex
+            sourceComponent: SettingsScreen { view: root.view.settings }
+        }
+    }
+    TabBar {
+        id: bar
+        anchors.bottom: parent.bottom
+        width: parent.width
+        tabs: root.view.tabs
+        selectedIndex: root.view.selectedIndex
+        onSelected: index => root.view.select(index)
+    }
+}

@@ -1,0 +1,37 @@
+import QtQuick
+
+// One tab. The selected one has a filled symbol and a bold label, so that colour is not the only sign.
+Pressable {
+    id: root
+    required property string label
+    required property string image
+    readonly property color ink: checked ? Theme.accent : Theme.secondary
+
+    text: label
+    topPadding: Theme.space2
+    bottomPadding: Theme.space2
+    Accessible.role: Accessible.PageTab
+    Accessible.checked: checked
+    Accessible.selected: checked
+
+    contentItem: Column {
+        spacing: Theme.space1
+        Symbol {
+            anchors.horizontalCenter: parent.horizontalCenter
+            name: root.image
+            color: root.ink
+        }
+        Text {
+            width: parent.width
+            text: root.label
+            color: root.ink
+            font.pixelSize: Theme.captionSize
+            font.weight: root.checked ? Font.DemiBold : Font.Normal
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: Theme.captionSize / 2
+            textFormat: Text.PlainText
+            horizontalAlignment: Text.AlignHCenter
+            Accessible.ignored: true
+        }
+    }
+}

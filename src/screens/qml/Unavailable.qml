@@ -1,0 +1,6 @@
+import QtQuick
+
+// The page of a tab whose service this build does not have.
+StateMessage {
+    drawing: "unavailable"
+}
