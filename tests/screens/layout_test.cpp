@@ -1,3 +1,5 @@
+#include "screens/conversation_view.h"
+#include "screens/full_swipe_pop_helper.h"
 #include "screens/review_prompt.h"
 #include "screens/screens.h"
 #include "screens_phone.h"
@@ -63,6 +65,9 @@ protected:
         qInstallMessageHandler(previous_);
     }
 
+    /// Whether what is on the screen must lie within the window; a screen that is dragged away does not.
+    enum class Within { Window, Nothing };
+
     void open() {
         makeContent();
         show();
@@ -74,18 +79,33 @@ protected:
     }
 
     void showSplash() {
+        makeEngine({{QStringLiteral("content"), QVariant::fromValue(content.get())},
+                    {QStringLiteral("reviewPrompt"), QVariant::fromValue(&prompt_)}});
+        engine_->load(QUrl(QString::fromLatin1(mainWindow)));
+        takeWindow();
+    }
+
+    /// A window with nothing but this in it.
+    void show(const QByteArray &qml, const QVariantMap &properties) {
+        makeEngine(properties);
+        engine_->loadData(qml);
+        takeWindow();
+    }
+
+    void makeEngine(const QVariantMap &properties) {
         engine_ = std::make_unique<QQmlApplicationEngine>();
         prepareScreens(*engine_, process->platform());
-        engine_->setInitialProperties({{QStringLiteral("content"), QVariant::fromValue(content.get())},
-                                       {QStringLiteral("reviewPrompt"), QVariant::fromValue(&prompt_)}});
-        engine_->load(QUrl(QString::fromLatin1(mainWindow)));
+        engine_->setInitialProperties(properties);
+    }
+
+    void takeWindow() {
         window_ = qobject_cast<QQuickWindow *>(engine_->rootObjects().value(0));
         ASSERT_NE(window_, nullptr) << complaints.join(u'\n').toStdString();
         window_->resize(GetParam().width, GetParam().height);
     }
 
     /// Lets everything arrive, keeps a picture and checks what is on the screen.
-    void look(const char *station) {
+    void look(const char *station, Within within = Within::Window) {
         comeToRest();
         const QImage picture = window_->grabWindow();
         std::filesystem::create_directories("pictures");
@@ -94,8 +114,26 @@ protected:
                      nullptr, fastPng);
         SCOPED_TRACE(station);
         EXPECT_GT(coloursOf(picture), 20) << "a blank screen";
-        check(*window_->contentItem());
+        if (within == Within::Window) check(*window_->contentItem());
         EXPECT_EQ(std::exchange(complaints, {}).join(u'\n').toStdString(), "");
+    }
+
+    /// A finger that moves by this share of the width, in the direction in which a screen is dragged away.
+    void drag(double share) {
+        const int sign = GetParam().rightToLeft ? -1 : 1;
+        const QPoint from(window_->width() / 2 - sign * window_->width() / 3, window_->height() / 2);
+        finger_ = QTest::createTouchDevice();
+        QTest::touchEvent(window_, finger_).press(0, from, window_);
+        for (int step = 1; step <= 10; ++step) {
+            const int x = from.x() + int(sign * share * window_->width() * step / 10);
+            QTest::touchEvent(window_, finger_).move(0, QPoint(x, from.y()), window_);
+            last_ = QPoint(x, from.y());
+        }
+    }
+
+    void drop() {
+        QTest::touchEvent(window_, finger_).release(0, last_, window_);
+        comeToRest();
     }
 
     /// Fades and pictures run on the toolkit's own clock: waits until nothing on the screen changes any more.
@@ -168,10 +206,12 @@ private:
     }
 
     QtMessageHandler previous_ = nullptr;
-    std::unique_ptr<QQmlApplicationEngine> engine_;
+    QPointingDevice *finger_ = nullptr;
+    QPoint last_;
 
 protected:
     ReviewPrompt prompt_{browser, QUrl()};
+    std::unique_ptr<QQmlApplicationEngine> engine_;
     QQuickWindow *window_ = nullptr;
 };
 
@@ -230,6 +270,70 @@ TEST_P(LayoutTest, Home) {
     used(3);
     content->home()->openCountries();
     look("change-countries");
+}
+
+constexpr char conversationOverHome[] = R"(
+    import QtQuick
+    import Orl.Screens
+    Window {
+        id: root
+        required property Appearance appearance
+        required property HomeView home
+        required property ConversationView conversation
+        required property FullSwipePopHelper swipe
+        visible: true
+        color: Theme.background
+        LayoutMirroring.enabled: appearance.rightToLeft
+        LayoutMirroring.childrenInherit: true
+        Binding { target: Theme; property: "dark"; value: root.appearance.dark }
+        Binding { target: Theme; property: "textScale"; value: root.appearance.textScale }
+        Binding { target: Theme; property: "reducedMotion"; value: root.appearance.reducedMotion }
+        FullSwipePop {
+            anchors.fill: parent
+            helper: root.swipe
+            content: Component { ConversationScreen { view: root.conversation } }
+            HomeScreen {
+                anchors.fill: parent
+                view: root.home
+            }
+        }
+    })";
+
+TEST_P(LayoutTest, Conversation) {
+    QList<Sms> messages = lively;
+    for (int i = 1; i <= 6; ++i) {
+        messages << Sms{lively[0].sender, QStringLiteral("%1 is your code %2").arg(482900 + i).arg(i),
+                        QStringLiteral("2025-12-31T2%1:00:00.000000Z").arg(i % 4)};
+    }
+    messages << Sms{ConversationView::otherSide(), QStringLiteral("Is 12345 right?"), {}};
+    phone.urls.answer(secondPageUrl, test::messagePage({}));
+    makeHome(messages);
+    ConversationView conversation(*process, request(), *content->copyVM());
+    FullSwipePopHelper swipe(request());
+    show(conversationOverHome, {{QStringLiteral("appearance"), QVariant::fromValue(&appearance)},
+                                {QStringLiteral("home"), QVariant::fromValue(content->home())},
+                                {QStringLiteral("conversation"), QVariant::fromValue(&conversation)},
+                                {QStringLiteral("swipe"), QVariant::fromValue(&swipe)}});
+    content->home()->showSenders();
+    content->home()->tapSender(0);
+    look("conversation");
+    phone.advance(std::chrono::seconds(1));
+    look("conversation-end");
+    drag(0.37);
+    look("conversation-half", Within::Nothing);
+    drop();
+    EXPECT_TRUE(request().conversation_isPresented());
+    drag(0.6);
+    drop();
+    EXPECT_FALSE(request().conversation_isPresented());
+    look("conversation-left");
+    content->home()->tapSender(4);
+    look("conversation-other-side");
+    request().setConversation_isPresented(false);
+    request().setSelectedConversation(std::nullopt);
+    request().setConversation_isPresented(true);
+    look("conversation-empty");
+    engine_.reset();
 }
 
 TEST_P(LayoutTest, HomeWithoutMessages) {

@@ -37,8 +37,8 @@ Item {
             Layout.alignment: root.mine ? Qt.AlignRight : Qt.AlignLeft
 
             Rectangle {
-                width: Theme.space3
-                height: Theme.space3
+                width: Theme.cardRadius
+                height: Theme.cardRadius
                 radius: Theme.space1 / 2
                 color: parent.color
                 border.color: parent.border.color
@@ -73,6 +73,8 @@ Item {
         }
         ExportChips {
             exports: root.exports
+            LayoutMirroring.enabled: root.atEnd
+            LayoutMirroring.childrenInherit: true
             Layout.fillWidth: true
             onTapped: entry => root.exportTapped(entry)
         }

@@ -25,8 +25,12 @@ Rectangle {
             text: "Back"
             onClicked: root.view.back()
         }
-        Avatar { face: root.view.face }
+        Avatar {
+            visible: root.view.name !== ""
+            face: root.view.face
+        }
         ColumnLayout {
+            visible: root.view.name !== ""
             spacing: 0
             Words {
                 text: root.view.name

@@ -24,7 +24,6 @@ FocusScope {
         visible: count > 0
         focus: true
         topMargin: Theme.space4
-        bottomMargin: Theme.space4
         spacing: Theme.space4
         cacheBuffer: Theme.phoneHeight
         boundsBehavior: Flickable.StopAtBounds
@@ -35,7 +34,10 @@ FocusScope {
             width: ListView.view.width
             onExportTapped: entry => root.view.tapExport(entry)
         }
-        footer: Item { objectName: "lastItem" }
+        footer: Item {
+            objectName: "lastItem"
+            implicitHeight: Theme.space4
+        }
 
         NumberAnimation {
             id: toLastItem
