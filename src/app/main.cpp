@@ -40,8 +40,11 @@ int main(int argc, char **argv) {
     QGuiApplication::setDesktopFileName(QStringLiteral("orl"));
     QGuiApplication::setLayoutDirection(QLocale().textDirection());
 
-    orl::SingleInstance instance(line.options->dataFolder, QDBusConnection::sessionBus(),
-                                 QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    // Asked for only where it is needed: the question alone prints a warning where there is no such folder.
+    const QString runtimeFolder =
+        bus.isConnected() ? QString() : QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    orl::SingleInstance instance(line.options->dataFolder, bus, runtimeFolder);
     // A picture is taken beside a running program.
     if (line.options->picture.isEmpty()) {
         if (const auto exitCode = endsHere(instance, activationToken)) {
