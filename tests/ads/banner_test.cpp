@@ -112,6 +112,10 @@ TEST_F(BannerTest, AnInlineBannerTellsWhatBecameOfIt) {
     phone.advance(1s);
     EXPECT_FALSE(failed.isLoaded()) << "no gap where no ad came";
     EXPECT_EQ(told, (QList{true, false}));
+    const BannerView anchored(*process, *appVM);
+    phone.advance(1s);
+    EXPECT_FALSE(anchored.isLoaded()) << "the two kinds have each their own status";
+    EXPECT_EQ(process->shared<InlineBannerAd>().status, AdStatus::loaded);
 }
 
 TEST_F(BannerTest, ABannerThatGoesTakesItsLoadAndItsTimerAlong) {

@@ -148,7 +148,9 @@ TEST_F(NativeCardTest, CardsOfOneTypeShowTheCardThatArrivedLast) {
     EXPECT_EQ(first->nativeAdView(), second->nativeAdView());
     EXPECT_FALSE(other->isLoaded());
     ads.natives[1]->receive("too late");
+    ads.natives[0]->refuse();
     phone.advance(500ms);
+    EXPECT_TRUE(first->isLoaded());
     EXPECT_EQ(headline(first), QStringLiteral("first, but later")) << "a shown card stays as it is";
 }
 

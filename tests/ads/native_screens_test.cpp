@@ -58,10 +58,10 @@ TEST_F(NativeScreensTest, WithoutThisLookAnInlineBannerTakesTheSameSteps) {
     EXPECT_TRUE(view->isPresented());
     EXPECT_EQ(view->nativeAdState(), NativeAdState::loaded);
     EXPECT_TRUE(view->banner()->isLoaded());
-    ads.banners[0]->receive(); // the next picture of the same banner
     phone.advance(4s);
     EXPECT_TRUE(view->showXMark());
     view->close();
+    ads.banners[0]->receive(); // the next picture of the same banner
     phone.advance(1min);
     EXPECT_FALSE(view->isPresented());
 }
