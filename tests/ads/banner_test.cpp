@@ -80,8 +80,8 @@ TEST_F(BannerTest, OneLoadedBannerMakesAllCountAsLoadedAtTheirNextTick) {
     EXPECT_FALSE(first.isLoaded() || second.isLoaded());
     phone.advance(1ms);
     EXPECT_TRUE(first.isLoaded() && second.isLoaded());
-    EXPECT_NE(first.assets(), nullptr);
-    EXPECT_EQ(second.assets(), nullptr);
+    EXPECT_EQ(first.face().headline(), QStringLiteral("banner"));
+    EXPECT_FALSE(second.hasFace());
     const BannerView third(*process, *appVM);
     EXPECT_EQ(third.status(), AdStatus::none);
     phone.advance(500ms);

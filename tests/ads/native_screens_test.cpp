@@ -31,7 +31,7 @@ TEST_F(NativeScreensTest, TheCardComesThreeSecondsAfterItsAdIsSeenAndClosesFourL
     EXPECT_FALSE(view->isPresented() || view->displayNativeAd());
     phone.advance(1ms);
     EXPECT_TRUE(view->isPresented() && view->displayNativeAd());
-    EXPECT_EQ(view->nativeAdView()->headline(), QStringLiteral("home ad"));
+    EXPECT_EQ(view->nativeAdView()->face().headline(), QStringLiteral("home ad"));
     view->close();
     EXPECT_TRUE(view->isPresented()) << "there is nothing to tap yet";
     phone.advance(3999ms);
