@@ -110,8 +110,32 @@ TEST(ClassIndexTest, FindsAllOfALongPage) {
     EXPECT_EQ(page.getElementsByClass("b").size(), 13'333U);
     EXPECT_EQ(page.select(".b .a").size(), 6'666U);
     const Elements all = page.getElementsByTag("u");
+    for (const Document &other : {page, page.copy()}) // walked, in part of it
+        EXPECT_EQ(other.select("u .a").size(), 6'666U);
     EXPECT_EQ(all.get(10'000).getElementsByClass("A").size(), 3'333U);
     EXPECT_EQ(all.get(19'999).getElementsByClass("b").size(), 1U);
+}
+
+/// One search from each of many roots, on a page where every class is another one.
+TEST(ClassIndexTest, StaysLinearForManyRootsAndLevels) {
+    std::string rows, levels;
+    for (int i = 0; i < 100'000; ++i) {
+        rows += "<p class=r" + std::to_string(i) + "><i class=x></i>";
+        levels += i % 2 ? "<div class=a>" : "<div class=b>";
+    }
+    const Document page = parse(rows);
+    std::size_t found = 0;
+    for (const Element &row : page.getElementsByTag("p"))
+        found += row.select("p .x").size();
+    EXPECT_EQ(found, 100'000U);
+
+    const Document deep = parse(levels);
+    for (int round = 0; round < 3; ++round) {
+        EXPECT_EQ(deep.select(".a .b").size(), 49'999U);
+        EXPECT_EQ(deep.select(".none .b").size(), 0U);
+        EXPECT_EQ(deep.select("div .b").size(), 49'999U);
+        EXPECT_EQ(deep.select(".a .a .a").size(), 49'998U);
+    }
 }
 
 TEST(ClassIndexTest, RandomPages) {

@@ -18,11 +18,8 @@ void ClassIndex::note(Arena &arena, const NodeRec *element) {
     for (const AttrRec &entry : attrBlock(element)) {
         const AttrRec &attr = entry.target();
         if (attr.name != nameRef(NameId::Class)) continue;
-        const Ref ref = refOf(element);
-        if (ref <= newest_) return drop();
-        newest_ = ref;
         if (!last_ || last_->count == last_->capacity) addBlock(arena);
-        last_->entries[last_->count++] = {ref, refOf(&attr)};
+        last_->entries[last_->count++] = {refOf(element), refOf(&attr)};
         return;
     }
 }
@@ -39,11 +36,11 @@ void ClassIndex::addBlock(Arena &arena) {
 
 void ClassIndex::finish(Arena &arena, NodeRec *page) {
     if (state_ != State::Filling) return;
-    if (!arena.isInOneRow()) return drop();
     page_ = page;
     version_ = arena.version;
     chunks_ = arena.chunkCount();
     end_ = arena.nextRecord();
+    ordered_ = arena.isInOneRow();
     state_ = State::Ready;
 }
 
@@ -51,7 +48,8 @@ const ClassIndex *ClassIndex::of(const NodeRec *node) {
     const Arena &arena = arenaOf(node);
     const ClassIndex &index = arena.classes;
     const bool holds = index.state_ == State::Ready && index.version_ == arena.version &&
-                       index.chunks_ == arena.chunkCount() && refOf(node) < index.end_;
+                       index.chunks_ == arena.chunkCount() &&
+                       (node == index.page_ || (index.ordered_ && refOf(node) < index.end_));
     return holds ? &index : nullptr;
 }
 

@@ -32,9 +32,12 @@ public:
     /// The page is parsed; the index holds as long as the arena is at this version and has no other chunks.
     void finish(Arena &arena, NodeRec *page);
 
-    /// The arena's index, if the node is of the tree that was parsed and nothing has changed since; else
-    /// null. The addresses of that tree's nodes grow in document order.
+    /// The arena's index, if it can tell what is in the subtree of the node: nothing has changed since the
+    /// parse, and the node is the page or one of a page whose addresses grow in document order. Else null.
     static const ClassIndex *of(const NodeRec *node);
+    /// Whether the addresses of the page's nodes grow in document order, as they do while each chunk of
+    /// memory comes behind the one before.
+    bool isOrdered() const { return ordered_; }
 
     /// The document that was parsed.
     NodeRec *page() const { return page_; }
@@ -44,6 +47,7 @@ public:
     /// Calls `visit` with each entry of the node and of what is below it.
     template<class Visit>
     void forEachIn(const NodeRec *top, Visit visit) const {
+        if (top == page_) return forEach(visit);
         const Ref from = refOf(top), to = endOf(top);
         for (const Block *block = first_; block; block = block->next) {
             if (block->last() < from) continue;
@@ -72,6 +76,12 @@ private:
         Ref last() const { return entries[count - 1].element; }
     };
 
+    template<class Visit>
+    void forEach(Visit visit) const {
+        for (const Block *block = first_; block; block = block->next)
+            for (const Entry *entry = block->entries; entry != block->entries + block->count; ++entry)
+                visit(*entry);
+    }
     static const Entry *lowerBound(const Block &block, Ref from) {
         return std::lower_bound(block.entries, block.entries + block.count, from,
                                 [](const Entry &entry, Ref ref) { return entry.element < ref; });
@@ -82,9 +92,9 @@ private:
     NodeRec *page_ = nullptr;
     std::uint64_t version_ = 0;
     std::uint32_t chunks_ = 0;
-    Ref newest_ = 0; ///< the element that was noted last
-    Ref end_ = 0;    ///< where the nodes of the page end
+    Ref end_ = 0; ///< where the nodes of the page end
     State state_ = State::Dropped;
+    bool ordered_ = false;
 };
 
 } // namespace orl::html::core

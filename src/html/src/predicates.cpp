@@ -57,14 +57,16 @@ public:
         const auto matches = [this](const NodeRec *element) { return name_.isIn(element); };
         const ClassIndex *index = ClassIndex::of(top);
         if (!index) return findByColumn(top, classColumn, &Columns::classes, matches);
-        if (index->isLong()) {
-            if (const Column *column = classColumn(*index)) {
-                const auto place = [column](Ref ref) {
-                    return std::size_t(std::ranges::lower_bound(column->elements, ref) -
-                                       column->elements.begin());
-                };
-                return findInColumn(*column, place(refOf(top)), place(ClassIndex::endOf(top)), matches);
-            }
+        if (const Column *column = index->isLong() ? classColumn(*index) : nullptr) {
+            const auto place = [column](Ref ref) {
+                return std::size_t(std::ranges::lower_bound(column->elements, ref) -
+                                   column->elements.begin());
+            };
+            const bool all = top == index->page();
+            const std::size_t first = all ? 0 : place(refOf(top));
+            const std::size_t last = all ? column->elements.size() : place(ClassIndex::endOf(top));
+            // Below a small part of the page there are fewer elements than numbers to decide about.
+            if (last - first >= column->examples.size()) return findInColumn(*column, first, last, matches);
         }
         Found found;
         index->forEachIn(top, [&](ClassIndex::Entry entry) {

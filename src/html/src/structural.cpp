@@ -116,7 +116,10 @@ private:
     NodeRec *next(NodeRec *element) const { return element == scope_.root ? nullptr : parentOf(element); }
 
     bool isOrdered() {
-        if (order_ == Order::Unasked) order_ = ClassIndex::of(scope_.root) ? Order::OfAddresses : Order::None;
+        if (order_ == Order::Unasked) {
+            const ClassIndex *index = ClassIndex::of(scope_.root);
+            order_ = index && index->isOrdered() ? Order::OfAddresses : Order::None;
+        }
         return order_ == Order::OfAddresses;
     }
 
