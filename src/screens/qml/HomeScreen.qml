@@ -61,7 +61,7 @@ Item {
                 view: root.view
             }
         }
-        displaced: Transition { NumberAnimation { property: "y"; duration: Theme.travel; easing.type: Easing.OutCubic } }
+        // Rows make room at once: one that still moved would keep a place from before its neighbour grew.
         add: Transition { NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Theme.motion } }
         Accessible.role: Accessible.List
         Accessible.name: "Messages"
