@@ -39,7 +39,7 @@ void addHeap() {
     for (const Input &input : inputs()) {
         add<Orl>(input);
 #ifdef ORL_BENCH_LIBXML2
-        add<Libxml2>(input);
+        if (!input.isDeepForLibxml2) add<Libxml2>(input);
 #endif
 #ifdef ORL_BENCH_GUMBO
         add<Gumbo>(input);

@@ -77,7 +77,7 @@ inline std::string attributes(std::size_t bytes) {
 }
 
 /// Wrongly nested formatting, rows and cells without tables, cells without rows, text between cells, end tags
-/// of nothing. It stays flat, as peers give up on pages that nest deeply.
+/// of nothing.
 inline std::string soup(std::size_t bytes) {
     std::string page = "<title>Soup</title>";
     for (int i = 0; page.size() < bytes; ++i)
@@ -96,6 +96,7 @@ struct Input {
     const char *className; ///< on part of the elements
     const char *tagName;
     std::size_t bytes = 0;
+    bool isDeepForLibxml2 = false; ///< it stops at 256 levels, of which it makes more than others here
 
     Input(const char *name_, Pages pages_, const char *className_, const char *tagName_)
         : name(name_), pages(std::move(pages_)), className(className_), tagName(tagName_) {
@@ -114,6 +115,7 @@ inline const std::vector<Input> &inputs() {
         made.emplace_back("text 1 MB", Pages{prose(1'000'000)}, "none", "p");
         made.emplace_back("attributes 1 MB", Pages{attributes(1'000'000)}, "large", "img");
         made.emplace_back("tag soup 1 MB", Pages{soup(1'000'000)}, "large", "td");
+        made.back().isDeepForLibxml2 = true;
         std::erase_if(made, [](const Input &input) { return input.pages.empty(); });
         return made;
     }();

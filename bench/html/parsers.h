@@ -43,8 +43,8 @@ bool hasWord(const char *value, const char *word);
 
 #ifdef ORL_BENCH_LIBXML2
 
-/// Classes are looked for by a walk over the tree's own structures, which is several times as fast as an
-/// XPath expression and faster than xmlGetProp, which copies every value.
+/// Classes are looked for by a walk over the tree's own structures: xmlGetProp would copy every value, and an
+/// XPath expression would build sets of nodes.
 struct Libxml2 {
     static constexpr const char *name = "libxml2";
     using Tree = std::shared_ptr<xmlDoc>;

@@ -6,6 +6,7 @@
 #include <cstring>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 
 namespace orl::html::core {
 
@@ -123,11 +124,13 @@ const Column *classColumn(const ClassIndex &index) {
     return column;
 }
 
-bool hasClassColumn(const ClassIndex &index) {
+bool putClassColumnOff(const ClassIndex &index) {
     Arena &arena = arenaOf(index.page());
     if (!arena.tablesIfAny()) return false;
-    const Column &column = arena.tables().columns.classes;
-    return column.root == index.page() && column.version == arena.version && !column.elements.empty();
+    Column &column = arena.tables().columns.classes;
+    const bool isDue =
+        column.root == index.page() && column.version == arena.version && column.elements.empty();
+    return isDue && !std::exchange(column.isPutOff, true);
 }
 
 void rememberSearch(NodeRec *root, Column Columns::*which) {

@@ -18,6 +18,7 @@ namespace orl::html::core {
 struct Column {
     const NodeRec *root = nullptr;         ///< was searched, and
     std::uint64_t version = 0;             ///< had not changed since when the arena was at this version
+    bool isPutOff = false;                 ///< filling it was put off once
     std::vector<Ref> elements;             ///< empty until the root is searched again
     std::vector<std::uint32_t> numbers;    ///< of each element
     std::vector<const NodeRec *> examples; ///< of each number: an element that has it
@@ -37,8 +38,9 @@ const Column *tagColumn(NodeRec *root);
 const Column *classColumn(NodeRec *root);
 /// The same for all that the index has, which was searched before if this gives null.
 const Column *classColumn(const ClassIndex &index);
-/// Whether that column is filled.
-bool hasClassColumn(const ClassIndex &index);
+/// Whether the next classColumn() would fill that column and nobody has put that off yet: once it is put off,
+/// as the search at hand may be the only one.
+bool putClassColumnOff(const ClassIndex &index);
 
 /// Remembers that the tree was searched.
 void rememberSearch(NodeRec *root, Column Columns::*column);

@@ -90,7 +90,7 @@ public:
     /// Many elements, and an inner predicate that finds its own fast: what stands inside one of those stays.
     void filter(Found &elements) override {
         if (elements.size() < many || inner_->walk() != Walk::Index || !isOrdered() ||
-            !hasClassColumn(*ClassIndex::of(scope_.root)))
+            putClassColumnOff(*ClassIndex::of(scope_.root)))
             return Predicate::filter(elements);
         const Found outer = inner_->findIn(scope_.root);
         auto next = outer.begin();
