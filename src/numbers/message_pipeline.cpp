@@ -268,8 +268,10 @@ void RequestViewModel::announceLaterThan(double last, const QList<Message> &list
 
 void RequestViewModel::markSeen(const QList<Message> &list) {
     const Platform &platform = process_.platform();
+    std::vector<std::pair<QString, StoredValue>> marks; // in one go: each write waits for the disk
     for (const Message &message : list)
-        platform.store.setValue(seenKey(message), true);
+        marks.emplace_back(seenKey(message), true);
+    if (!marks.empty()) platform.store.setValues(marks);
     if (!selectedConversation_) return;
     const auto open = std::find_if(senders_.begin(), senders_.end(), [&](const SMSSender &sender) {
         return sender.name == selectedConversation_->name;

@@ -267,9 +267,19 @@ TEST_P(LayoutTest, Home) {
     content->home()->tapSimilar(0);
     look("confirmation");
     content->home()->choice()->cancel();
-    used(3);
     content->home()->openCountries();
     look("change-countries");
+
+    const QString niger = QStringLiteral("https://first.example/en/niger");
+    phone.urls.answer(niger, test::numbersPage({"+227 555 0101", "+227 555 0102", "+227 555 0103"}));
+    phone.urls.answer(QStringLiteral("https://first.example/en/numbers/2275550101"),
+                      test::messagePage(lively));
+    content->home()->countries()->tap(0);
+    look("change-numbers");
+    content->home()->countries()->numbers()->tap(0);
+    content->home()->countries()->numbers()->choice()->confirm();
+    look("changed");
+    EXPECT_EQ(content->home()->similar()->count(), 2);
 }
 
 constexpr char conversationOverHome[] = R"(

@@ -61,8 +61,7 @@ Item {
                 view: root.view
             }
         }
-        // Rows make room at once: one that still moved would keep a place from before its neighbour grew.
-        add: Transition { NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Theme.motion } }
+        // Without transitions: a row that grows while it is in one is laid over by the next.
         Accessible.role: Accessible.List
         Accessible.name: "Messages"
     }

@@ -1,37 +1,35 @@
 // Delegates reach the screen by its id, which this lint takes for a name from nowhere.
 // qmllint disable unqualified
 import QtQuick
-import QtQuick.Layouts
 import Orl.Screens
 
-// The other numbers of the country, in two columns; in one where the text is large.
-ColumnLayout {
+// The other numbers of the country, in two columns; in one where the text is large. Positioners and no layouts: those of
+// Qt 6.4 hold on to cards that are gone when the country changes.
+Column {
     id: root
     required property HomeView view
 
     visible: view.similar.count > 0
+    topPadding: Theme.space4
     spacing: Theme.space2
 
     Words {
         text: "Simular Numbers"
         font.pixelSize: Theme.headingSize
         font.weight: Font.DemiBold
-        Layout.fillWidth: true
-        Layout.topMargin: Theme.space4
+        width: root.width
         Accessible.role: Accessible.Heading
     }
-    GridLayout {
+    Grid {
+        id: grid
         columns: Theme.large ? 1 : 2
-        columnSpacing: Theme.space2
-        rowSpacing: Theme.space2
-        Layout.fillWidth: true
+        spacing: Theme.space2
         Repeater {
             model: root.view.similar
             NumberCard {
                 required property int index
                 padding: Theme.space3
-                Layout.fillWidth: true
-                Layout.preferredWidth: 1
+                width: (root.width - (grid.columns - 1) * grid.spacing) / grid.columns
                 onClicked: root.view.tapSimilar(index)
             }
         }
