@@ -13,6 +13,7 @@ class NativeAdView_XMARK : public QObject {
     /// the card and its backdrop take room and touches
     Q_PROPERTY(bool isPresented READ isPresented NOTIFY changed)
     Q_PROPERTY(bool displayNativeAd READ displayNativeAd NOTIFY changed)
+    Q_PROPERTY(bool hideNativeAd READ hideNativeAd NOTIFY changed)
     Q_PROPERTY(bool showXMark READ showXMark NOTIFY changed)
     Q_PROPERTY(orl::NativeAdView *nativeAdView READ nativeAdView NOTIFY changed)
     /// null where the native card stands

@@ -1,3 +1,4 @@
+#include "resting.h"
 #include "screens/conversation_view.h"
 #include "screens/full_swipe_pop_helper.h"
 #include "screens/review_prompt.h"
@@ -136,32 +137,12 @@ protected:
         comeToRest();
     }
 
-    /// Fades and pictures run on the toolkit's own clock: waits until nothing on the screen changes any more.
     void comeToRest() {
-        size_t before = 0;
-        const auto resting = [&] {
-            phone.settle();
-            const size_t now = traceOf(*window_->contentItem());
-            return std::exchange(before, now) == now;
-        };
-        do
-            QTest::qWait(20); // more than a frame
-        while (!resting());
+        orl::comeToRest(*window_->contentItem(), [this] { phone.settle(); });
     }
 
 private:
     static constexpr int fastPng = 80; ///< of 100; less work for a larger file
-
-    /// Tells two moments of an animated screen apart.
-    static size_t traceOf(const QQuickItem &item) {
-        if (!item.isVisible()) return 0;
-        const QVariant status = item.property("status");
-        size_t trace = qHashMulti(0, item.x(), item.y(), item.width(), item.height(), item.opacity(),
-                                  item.scale(), status.toInt());
-        for (const QQuickItem *child : item.childItems())
-            trace = qHashMulti(trace, traceOf(*child));
-        return trace;
-    }
 
     static int coloursOf(const QImage &picture) {
         QSet<QRgb> colours;

@@ -121,7 +121,8 @@ public:
     const AdAssets *assets() const override { return received_ ? &assets_ : nullptr; }
     void tap() override { events.clicked(); }
 
-    void receive() {
+    void receive(const AdAssets &assets = {.headline = QStringLiteral("banner")}) {
+        assets_ = assets;
         received_ = true;
         events.received();
     }
@@ -133,7 +134,7 @@ private:
     PlayedAds &ads_;
     const QString unit_;
     const BannerSize size_;
-    const AdAssets assets_{.headline = QStringLiteral("banner")};
+    AdAssets assets_;
     bool received_ = false;
 };
 
