@@ -35,14 +35,16 @@ void BannerBase::load() {
     configure();
     if (!isShown()) return;
     banner_ = process_.platform().ads.makeBanner(unit_, size_,
-                                                 {.received =
-                                                      [this] {
-                                                          received();
-                                                          Q_EMIT assetsChanged();
-                                                      },
+                                                 {.received = [this] { receive(); },
                                                   .failed = [this](const Error &error) { fail(error); },
                                                   .clicked = [this] { click(); }});
     banner_->load();
+}
+
+void BannerBase::receive() {
+    if (const AdAssets *assets = banner_->assets()) face_.emplace(process_, *assets);
+    Q_EMIT faceChanged();
+    received();
 }
 
 void BannerBase::fail(const Error &error) {

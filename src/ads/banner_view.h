@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ads/ad_face.h"
 #include "ads/ad_status.h"
 #include "config/app_config_view_model.h"
 #include "platform/ad_service.h"
@@ -22,21 +23,24 @@ class BannerBase : public QObject {
     /// false: opacity 0 and a bottom padding of -100; true: both slide to their place
     Q_PROPERTY(bool isLoaded READ isLoaded NOTIFY statusChanged)
     Q_PROPERTY(double height READ height CONSTANT)
+    /// what is to be drawn, once there is something
+    Q_PROPERTY(bool hasFace READ hasFace NOTIFY faceChanged)
+    Q_PROPERTY(orl::AdFace face READ face NOTIFY faceChanged)
 public:
     bool isShown() const;
     AdStatus status() const { return status_; }
     bool isLoaded() const { return status_ == AdStatus::loaded; }
     virtual double height() const = 0; ///< points
 
-    /// What is to be drawn; null while the frame is empty.
-    const AdAssets *assets() const { return banner_ ? banner_->assets() : nullptr; }
+    bool hasFace() const { return face_.has_value(); } ///< false: the frame is empty
+    AdFace face() const { return face_.value_or(AdFace()); }
 
     Q_INVOKABLE void tap();
 
 Q_SIGNALS:
     void isShownChanged();
     void statusChanged();
-    void assetsChanged();
+    void faceChanged();
 
 protected:
     BannerBase(Process &process, AppConfigViewModel &appVM, QString unit, BannerSize size, QObject *parent);
@@ -56,6 +60,7 @@ protected:
 private:
     void configure();
     void load();
+    void receive();
     void fail(const Error &error);
     void click();
 
@@ -63,6 +68,7 @@ private:
     const BannerSize size_;
     std::optional<AdmobConfig> admobConfig_;
     std::unique_ptr<Banner> banner_;
+    std::optional<AdFace> face_;
     AdStatus status_ = AdStatus::none;
 };
 

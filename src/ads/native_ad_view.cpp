@@ -4,13 +4,9 @@
 
 namespace orl {
 
-const AdAssets &NativeAdView::assets() const {
-    static const AdAssets none;
-    return ad_ ? ad_->assets() : none;
-}
-
 void NativeAdView::fill(std::shared_ptr<NativeAdContent> ad) {
     ad_ = std::move(ad);
+    face_ = AdFace(process_, ad_->assets());
     Q_EMIT filled();
 }
 
@@ -19,7 +15,8 @@ void NativeAdView::tap() {
 }
 
 void NativeAdView::videoDidEnd() {
-    if (hasVideoContent()) process_.platform().console.print(QStringLiteral("Video playback has ended."));
+    if (face_.hasVideoContent())
+        process_.platform().console.print(QStringLiteral("Video playback has ended."));
 }
 
 } // namespace orl

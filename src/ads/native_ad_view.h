@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ads/ad_face.h"
 #include "ads/native_model.h"
 #include "platform/ad_service.h"
 #include "platform/process.h"
@@ -14,30 +15,13 @@ class NativeAdView : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString layout READ layout CONSTANT)
     Q_PROPERTY(bool spinning READ spinning NOTIFY filled)
-    Q_PROPERTY(QString headline READ headline NOTIFY filled)
-    Q_PROPERTY(QString body READ body NOTIFY filled)
-    Q_PROPERTY(QString callToAction READ callToAction NOTIFY filled)
-    Q_PROPERTY(QString advertiser READ advertiser NOTIFY filled)
-    Q_PROPERTY(QString store READ store NOTIFY filled)
-    Q_PROPERTY(QString price READ price NOTIFY filled)
-    Q_PROPERTY(QString stars READ stars NOTIFY filled)
-    Q_PROPERTY(bool hasVideoContent READ hasVideoContent NOTIFY filled)
+    Q_PROPERTY(orl::AdFace face READ face NOTIFY filled)
 public:
     NativeAdView(Process &process, NativeAdType type) : process_(process), type_(type) {}
 
     QString layout() const { return layoutFile(type_); } ///< the name of the component
     bool spinning() const { return !ad_; }               ///< the layout's spinner, until filled
-    QString headline() const { return assets().headline; }
-    QString body() const { return assets().body; }
-    QString callToAction() const { return assets().callToAction; }
-    QString advertiser() const { return assets().advertiser; }
-    QString store() const { return assets().store; }
-    QString price() const { return assets().price; }
-    QString stars() const { return starImage(assets().starRating); } ///< the name of a picture
-    bool hasVideoContent() const { return assets().media.hasVideoContent(); }
-
-    const std::shared_ptr<NativeAdContent> &ad() const { return ad_; }
-    const AdAssets &assets() const;
+    const AdFace &face() const { return face_; }
 
     void fill(std::shared_ptr<NativeAdContent> ad);
 
@@ -53,6 +37,7 @@ private:
     Process &process_;
     const NativeAdType type_;
     std::shared_ptr<NativeAdContent> ad_;
+    AdFace face_;
 };
 
 } // namespace orl

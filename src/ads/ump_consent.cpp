@@ -89,7 +89,7 @@ void UMPConsent::formLoaded(const std::shared_ptr<ConsentForm> &form, const Comp
 void UMPConsent::formDismissed(const std::optional<Error> &error, const Completion &completion) {
     if (error) print("Failed to present UMPConsent form: ", *error);
     call(completion);
-    if (!error && !trackingDenied()) loadForm({});
+    if (!error) loadForm({});
 }
 
 bool UMPConsent::trackingDenied() const {

@@ -11,8 +11,8 @@
 namespace {
 
 /// The exit code where this start must not go on; nothing where it is the first one.
-std::optional<int> endsHere(orl::SingleInstance &instance) {
-    switch (instance.start(qEnvironmentVariable("XDG_ACTIVATION_TOKEN"))) {
+std::optional<int> endsHere(orl::SingleInstance &instance, const QString &activationToken) {
+    switch (instance.start(activationToken)) {
     case orl::SingleInstance::Start::First: break;
     case orl::SingleInstance::Start::Second: return 0;
     case orl::SingleInstance::Start::NoAnswer:
@@ -33,16 +33,25 @@ int main(int argc, char **argv) {
         std::fputs(qUtf8Printable(line.text), line.exitCode == 0 ? stdout : stderr);
         return line.exitCode;
     }
+    const QString activationToken =
+        qEnvironmentVariable("XDG_ACTIVATION_TOKEN"); // gone once a window took it
     QGuiApplication gui(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("orl"));
     QGuiApplication::setDesktopFileName(QStringLiteral("orl"));
     QGuiApplication::setLayoutDirection(QLocale().textDirection());
 
-    orl::SingleInstance instance(line.options->dataFolder, QDBusConnection::sessionBus(),
-                                 QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    // Asked for only where it is needed: the question alone prints a warning where there is no such folder.
+    const QString runtimeFolder =
+        bus.isConnected() ? QString() : QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    orl::SingleInstance instance(line.options->dataFolder, bus, runtimeFolder);
     // A picture is taken beside a running program.
     if (line.options->picture.isEmpty()) {
-        if (const auto exitCode = endsHere(instance)) return *exitCode;
+        if (const auto exitCode = endsHere(instance, activationToken)) {
+            if (*exitCode == 0 && line.options->choose)
+                std::fputs("orl: it runs already; choose the number there\n", stderr);
+            return *exitCode;
+        }
     }
 
     const auto endpoints = orl::EndpointsInForce::open(line.options->endpointsFile);

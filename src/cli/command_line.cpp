@@ -21,6 +21,9 @@ constexpr std::array shapes{
     Shape{CommandLine::Command::Countries, "countries", 0, 1, "countries [TERM]"},
     Shape{CommandLine::Command::Numbers, "numbers", 1, 1, "numbers COUNTRY"},
     Shape{CommandLine::Command::Messages, "messages", 2, 2, "messages COUNTRY NUMBER [--watch]"},
+    Shape{CommandLine::Command::History, "history", 0, 0, "history"},
+    Shape{CommandLine::Command::Choose, "choose", 2, 2, "choose COUNTRY NUMBER"},
+    Shape{CommandLine::Command::Wait, "wait", 2, 2, "wait COUNTRY NUMBER [--code] [--timeout SECONDS]"},
 };
 
 const Shape *shapeOf(const QString &name) {
@@ -33,12 +36,36 @@ Error wrong(const QString &text) {
     return Error{text};
 }
 
+/// What is wrong with options that a command does not take, or an empty text.
+QString misplacedOption(const CommandLine &line, bool hasTimeout) {
+    using Command = CommandLine::Command;
+    if (line.watch && line.command != Command::Messages)
+        return QStringLiteral("--watch goes with messages only");
+    if (line.code && line.command != Command::Wait) return QStringLiteral("--code goes with wait only");
+    if (hasTimeout && line.command != Command::Wait) return QStringLiteral("--timeout goes with wait only");
+    if (!line.dataFolder.isEmpty() && !line.usesData())
+        return QStringLiteral("--data goes with history and choose only");
+    return {};
+}
+
+constexpr int longestTimeout = 7 * 24 * 60 * 60; // seconds
+
+std::optional<std::chrono::seconds> secondsFrom(const QString &text) {
+    bool isNumber = false;
+    const int seconds = text.toInt(&isNumber);
+    if (!isNumber || seconds < 1 || seconds > longestTimeout) return std::nullopt;
+    return std::chrono::seconds(seconds);
+}
+
 } // namespace
 
 Result<CommandLine> CommandLine::parse(const QStringList &arguments) {
     QCommandLineParser parser;
     parser.addOptions({{QStringLiteral("json"), {}},
                        {QStringLiteral("watch"), {}},
+                       {QStringLiteral("code"), {}},
+                       {QStringLiteral("timeout"), {}, QStringLiteral("SECONDS")},
+                       {QStringLiteral("data"), {}, QStringLiteral("FOLDER")},
                        {{QStringLiteral("help"), QStringLiteral("h")}, {}},
                        {QStringLiteral("version"), {}},
                        {QStringLiteral("endpoints"), {}, QStringLiteral("FILE")}});
@@ -47,6 +74,8 @@ Result<CommandLine> CommandLine::parse(const QStringList &arguments) {
     CommandLine line;
     line.json = parser.isSet(QStringLiteral("json"));
     line.watch = parser.isSet(QStringLiteral("watch"));
+    line.code = parser.isSet(QStringLiteral("code"));
+    line.dataFolder = parser.value(QStringLiteral("data"));
     line.endpointsFile = parser.value(QStringLiteral("endpoints"));
     line.arguments = parser.positionalArguments();
     if (parser.isSet(QStringLiteral("help"))) return line;
@@ -62,9 +91,12 @@ Result<CommandLine> CommandLine::parse(const QStringList &arguments) {
     const qsizetype count = line.arguments.size();
     if (count < shape->fewest || count > shape->most)
         return wrong(QStringLiteral("usage: orl-cli ") + QLatin1String(shape->usage));
-    if (line.watch && shape->command != Command::Messages)
-        return wrong(QStringLiteral("--watch goes with messages only"));
     line.command = shape->command;
+    const QString timeout = parser.value(QStringLiteral("timeout"));
+    if (const QString problem = misplacedOption(line, !timeout.isEmpty()); !problem.isEmpty())
+        return wrong(problem);
+    line.timeout = secondsFrom(timeout);
+    if (!timeout.isEmpty() && !line.timeout) return wrong(QStringLiteral("--timeout needs whole seconds"));
     return line;
 }
 
@@ -75,6 +107,14 @@ QString CommandLine::help() {
   numbers COUNTRY              the numbers of a country
   messages COUNTRY NUMBER      the messages of a number, newest at the bottom
       --watch                  stay, and print each new message as it arrives
+  wait COUNTRY NUMBER          the next message that arrives; earlier ones do not count
+      --code                   its first code or link alone; messages without either do not count
+      --timeout SECONDS        give up after so long
+  choose COUNTRY NUMBER        make a number the one that the application shows
+  history                      the numbers that were chosen, newest first
+      --data FOLDER            of both: the application's data in FOLDER
+
+  html COMMAND                 the document engine for files of your own: orl-cli html --help
 
   --json                       JSON instead of text: one list, with --watch one object per line
   --endpoints FILE             read the endpoints of FILE (lines of key=value) instead of those of the build;
@@ -82,7 +122,7 @@ QString CommandLine::help() {
   --help, --version
 
 Everybody can read the messages of a public number. Without endpoints the program reads its own demo host.
-Exit code: 0 done, 1 nothing found, 2 wrong use, 3 an endpoint failed.
+Exit code: 0 done, 1 nothing found or come, 2 wrong use, 3 an endpoint failed.
 )");
 }
 

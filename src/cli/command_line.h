@@ -5,6 +5,9 @@
 #include <QString>
 #include <QStringList>
 
+#include <chrono>
+#include <optional>
+
 namespace orl {
 
 /// How orl-cli ends.
@@ -12,13 +15,19 @@ enum class ExitCode { Done = 0, NothingFound = 1, WrongUse = 2, EndpointFailed =
 
 /// What the user typed, checked.
 struct CommandLine {
-    enum class Command { Help, Version, Countries, Numbers, Messages };
+    enum class Command { Help, Version, Countries, Numbers, Messages, History, Choose, Wait };
 
     Command command = Command::Help;
     QStringList arguments; ///< those of the command, without options
     bool json = false;
     bool watch = false;
-    QString endpointsFile; ///< empty: the ones of the build
+    bool code = false;
+    std::optional<std::chrono::seconds> timeout; ///< of Wait; nothing: as long as it takes
+    QString dataFolder;                          ///< of History and Choose; empty: the application's own
+    QString endpointsFile;                       ///< empty: the ones of the build
+
+    /// Whether the command is about what the application keeps. All others leave no trace.
+    bool usesData() const { return command == Command::History || command == Command::Choose; }
 
     /// An error names what is wrong with the arguments, in one line.
     static Result<CommandLine> parse(const QStringList &arguments);

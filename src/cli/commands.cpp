@@ -2,6 +2,7 @@
 
 #include "cli/port_watch.h"
 #include "numbers/moments.h"
+#include "numbers/text_helpers.h"
 
 #include <QDateTime>
 #include <QJsonArray>
@@ -9,12 +10,15 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 namespace orl {
 
 using namespace std::chrono_literals;
 
 namespace {
+
+constexpr qsizetype shortestCode = 3;
 
 QString compact(const QJsonObject &object) {
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
@@ -63,6 +67,29 @@ QString textOf(const QJsonObject &message) {
              message.value(QStringLiteral("content")).toString());
 }
 
+/// The first code of a message, or its first link where it has none.
+QString firstExport(const QString &content) {
+    const QStringList codes = extractNumbers(shortestCode, content);
+    return codes.isEmpty() ? firstLink(content).value_or(QString()) : codes.front();
+}
+
+QString localTime(double secondsSince1970) {
+    return QDateTime::fromMSecsSinceEpoch(qint64(secondsSince1970 * 1000))
+        .toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+}
+
+/// Entries of old stores hold the bare number in the place of the record.
+QString historyText(const QJsonObject &entry) {
+    const QJsonObject country = entry.value(QStringLiteral("country")).toObject();
+    const QString number = entry.value(QStringLiteral("phoneNumber"))
+                               .toObject()
+                               .value(QStringLiteral("number"))
+                               .toString(entry.value(QStringLiteral("number")).toString());
+    return QStringLiteral("%1  %2  %3")
+        .arg(localTime(entry.value(QStringLiteral("time")).toDouble()), number,
+             country.value(QStringLiteral("name")).toString());
+}
+
 } // namespace
 
 Commands::Commands(Process &process, IdleWatch &idle, const ReadWatch &reads, Output output)
@@ -71,25 +98,43 @@ Commands::Commands(Process &process, IdleWatch &idle, const ReadWatch &reads, Ou
 void Commands::run(const CommandLine &line, Finished finished) {
     line_ = line;
     finished_ = std::move(finished);
+    if (line_.timeout) {
+        process_.platform().mainQueue.postAfter(*line_.timeout, [this] {
+            if (!finished_) return;
+            output_.notice(QStringLiteral("nothing came within %1 seconds").arg(line_.timeout->count()));
+            finish(ExitCode::NothingFound);
+        });
+    }
+    // What was chosen is known without any host.
+    if (line_.command == CommandLine::Command::History) return showHistory();
     // The recipe first: pages read before it arrives would be read by the compiled one.
     config_ = std::make_unique<AppConfigViewModel>(process_);
     idle_.whenIdle([this] {
         requests_ = std::make_unique<RequestViewModel>(process_);
-        idle_.whenIdle([this] {
-            switch (line_.command) {
-            case CommandLine::Command::Countries: return listCountries();
-            case CommandLine::Command::Numbers: return listNumbers();
-            case CommandLine::Command::Messages: return showMessages();
-            case CommandLine::Command::Help:
-            case CommandLine::Command::Version: return finished_(ExitCode::WrongUse);
-            }
-        });
+        idle_.whenIdle([this] { start(); });
     });
+}
+
+void Commands::start() {
+    switch (line_.command) {
+    case CommandLine::Command::Countries: return listCountries();
+    case CommandLine::Command::Numbers: return listNumbers();
+    case CommandLine::Command::Messages: return showMessages();
+    case CommandLine::Command::Wait: return waitForMessage();
+    case CommandLine::Command::Choose: return chooseNumber();
+    case CommandLine::Command::History:
+    case CommandLine::Command::Help:
+    case CommandLine::Command::Version: return finish(ExitCode::WrongUse);
+    }
+}
+
+void Commands::finish(ExitCode code) {
+    if (const Finished finished = std::exchange(finished_, nullptr)) finished(code);
 }
 
 void Commands::finishEmpty(const QString &notice) {
     output_.notice(notice);
-    finished_(reads_.failures() > 0 ? ExitCode::EndpointFailed : ExitCode::NothingFound);
+    finish(reads_.failures() > 0 ? ExitCode::EndpointFailed : ExitCode::NothingFound);
 }
 
 void Commands::print(const QList<QJsonObject> &rows,
@@ -119,7 +164,7 @@ void Commands::listCountries() {
             .arg(row.value(QStringLiteral("prefix")).toString(), -6)
             .arg(row.value(QStringLiteral("name")).toString());
     });
-    finished_(ExitCode::Done);
+    finish(ExitCode::Done);
 }
 
 void Commands::withCountry(const QString &name, std::function<void(const Country &)> next) {
@@ -150,41 +195,118 @@ void Commands::listNumbers() {
         for (const PhoneNumber &number : numbers)
             rows.append(number.encoded());
         print(rows, [](const QJsonObject &row) { return row.value(QStringLiteral("number")).toString(); });
-        finished_(ExitCode::Done);
+        finish(ExitCode::Done);
     });
 }
 
-void Commands::showMessages() {
-    withNumbers(line_.arguments.at(0), [this](const Country &country, const QList<PhoneNumber> &numbers) {
+void Commands::withNumber(std::function<void(const Country &, const PhoneNumber &)> next) {
+    withNumbers(line_.arguments.at(0), [this, next = std::move(next)](const Country &country,
+                                                                      const QList<PhoneNumber> &numbers) {
         const QString wanted = digits(line_.arguments.at(1));
         const auto found = std::ranges::find_if(
             numbers, [&wanted](const PhoneNumber &number) { return digits(number.number) == wanted; });
         if (found == numbers.end())
             return finishEmpty(QStringLiteral("no number %1 in %2").arg(line_.arguments.at(1), country.name));
-        requests_->chooseNumber(country, *found, false);
+        next(country, *found);
+    });
+}
+
+void Commands::withMessages(std::function<void()> next) {
+    withNumber([this, next = std::move(next)](const Country &country, const PhoneNumber &number) {
+        requests_->chooseNumber(country, number, false);
         requests_->fetchMessages(true);
-        idle_.whenIdle([this] {
-            const QList<QJsonObject> rows = newMessages();
-            if (rows.isEmpty() && !line_.watch) return finishEmpty(QStringLiteral("no messages"));
-            if (line_.watch) {
-                for (const QJsonObject &row : rows)
-                    output_.result(line_.json ? compact(row) : textOf(row));
-                return watchMessages();
-            }
-            print(rows, textOf);
-            finished_(ExitCode::Done);
-        });
+        idle_.whenIdle(next);
+    });
+}
+
+void Commands::showMessages() {
+    withMessages([this] {
+        const QList<QJsonObject> rows = newMessages();
+        if (line_.watch) {
+            for (const QJsonObject &row : rows)
+                output_.result(line_.json ? compact(row) : textOf(row));
+            return watchMessages();
+        }
+        if (rows.isEmpty()) return finishEmpty(QStringLiteral("no messages"));
+        print(rows, textOf);
+        finish(ExitCode::Done);
+    });
+}
+
+void Commands::refreshMessages(std::function<void()> seen) {
+    refresh_ = process_.platform().mainQueue.every(10s, [this, seen = std::move(seen)] {
+        // By force: a message may say the very same as the one before it.
+        requests_->fetchMessages(true);
+        idle_.whenIdle(seen);
     });
 }
 
 void Commands::watchMessages() {
-    refresh_ = process_.platform().mainQueue.every(10s, [this] {
-        requests_->fetchMessages(false);
-        idle_.whenIdle([this] {
-            for (const QJsonObject &row : newMessages())
-                output_.result(line_.json ? compact(row) : textOf(row));
+    refreshMessages([this] {
+        for (const QJsonObject &row : newMessages())
+            output_.result(line_.json ? compact(row) : textOf(row));
+    });
+}
+
+void Commands::waitForMessage() {
+    withMessages([this] {
+        lookForMessage();
+        refreshMessages([this] { lookForMessage(); });
+    });
+}
+
+/// What stands on the first page that can be read came before.
+void Commands::lookForMessage() {
+    const QList<QJsonObject> rows = newMessages();
+    const bool came = std::exchange(sawPage_, requests_->lastFetchSucceededAt().has_value());
+    if (!came || !finished_) return;
+    for (QJsonObject row : rows) {
+        if (line_.code) {
+            const QString code = firstExport(row.value(QStringLiteral("content")).toString());
+            if (code.isEmpty()) continue;
+            row.insert(QStringLiteral("code"), code);
+            output_.result(line_.json ? compact(row) : code);
+        } else {
+            output_.result(line_.json ? compact(row) : textOf(row));
+        }
+        return finish(ExitCode::Done);
+    }
+}
+
+void Commands::chooseNumber() {
+    withNumber([this](const Country &country, const PhoneNumber &number) {
+        const auto current = requests_->currentNumber();
+        const bool isCurrent = current && digits(current->number) == digits(number.number) &&
+                               requests_->currentCountry().value_or(Country()).name == country.name;
+        // Choosing the same one again would only use up the allowance.
+        if (!isCurrent && !requests_->mayChoose()) {
+            output_.notice(
+                QStringLiteral("the limit is reached; a video watched in the application raises it"));
+            return finish(ExitCode::NothingFound);
+        }
+        if (!isCurrent) requests_->chooseNumber(country, number, false);
+        idle_.whenIdle([this, number] {
+            output_.result(line_.json ? compact(number.encoded()) : number.number);
+            finish(ExitCode::Done);
         });
     });
+}
+
+void Commands::showHistory() {
+    requests_ = std::make_unique<RequestViewModel>(process_);
+    requests_->loadHistory([this](const QList<History> &list) {
+        if (list.isEmpty()) {
+            output_.notice(QStringLiteral("no number was chosen yet"));
+            return finish(ExitCode::NothingFound);
+        }
+        QList<QJsonObject> rows;
+        for (const History &entry : list)
+            rows.append(entry.encoded());
+        print(rows, historyText);
+        finish(ExitCode::Done);
+    });
+    // A history that cannot be read has no completion; the console has told why.
+    idle_.whenIdle([this] { finish(ExitCode::NothingFound); });
 }
 
 QList<QJsonObject> Commands::newMessages() {

@@ -18,8 +18,9 @@ namespace orl {
 class IdleWatch;
 class ReadWatch;
 
-/// Runs one command of orl-cli on the program's own state objects. Main thread; the process needs a store
-/// that may be thrown away, as showing a number's messages makes it the current one.
+/// Runs one command of orl-cli on the program's own state objects. Main thread. Showing a number's messages
+/// makes it the current one, so every command but those that use the application's data needs a store that
+/// may be thrown away.
 class Commands {
 public:
     struct Output {
@@ -30,18 +31,28 @@ public:
 
     Commands(Process &process, IdleWatch &idle, const ReadWatch &reads, Output output);
 
-    /// Calls `finished` once, on the main queue; with --watch never, unless the start fails.
+    /// Calls `finished` once, on the main queue; with --watch never, unless the start fails. The timeout of
+    /// `wait` counts from here.
     void run(const CommandLine &line, Finished finished);
 
 private:
-    void withCountries(std::function<void()> next);
     void withCountry(const QString &name, std::function<void(const Country &)> next);
     void withNumbers(const QString &country,
                      std::function<void(const Country &, const QList<PhoneNumber> &)> next);
+    void withNumber(std::function<void(const Country &, const PhoneNumber &)> next);
+    void withMessages(std::function<void()> next);
+    void start();
     void listCountries();
     void listNumbers();
     void showMessages();
     void watchMessages();
+    void waitForMessage();
+    void lookForMessage();
+    void chooseNumber();
+    void showHistory();
+    /// Reads the messages every ten seconds, and calls `seen` each time that this is done.
+    void refreshMessages(std::function<void()> seen);
+    void finish(ExitCode code);
     void print(const QList<QJsonObject> &rows, const std::function<QString(const QJsonObject &)> &text);
     /// Messages that were not printed yet, oldest first.
     QList<QJsonObject> newMessages();
@@ -56,6 +67,7 @@ private:
     std::unique_ptr<AppConfigViewModel> config_;
     std::unique_ptr<RequestViewModel> requests_;
     std::unique_ptr<RepeatingTimer> refresh_;
+    bool sawPage_ = false;      ///< of Wait: what was there before is known
     QHash<QString, int> shown_; ///< how many messages of one identity were printed so far
 };
 

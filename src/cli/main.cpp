@@ -1,9 +1,11 @@
 #include "cli/commands.h"
+#include "cli/html_command.h"
 #include "cli/port_watch.h"
 #include "demo/endpoints_in_force.h"
 #include "platform/qt/linux_platform.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QTemporaryDir>
 #include <QTextStream>
 
@@ -24,24 +26,31 @@ int endWith(ExitCode code, const QString &notice) {
 }
 
 /// The ports of the phone with the two that are watched put in between.
-Platform watched(const Platform &ports, IdleWatch &idle, ReadWatch &reads) {
-    return {ports.clock,        ports.mainQueue, idle,          reads,       ports.store,
-            ports.reachability, ports.bundle,    ports.console, ports.fatal, ports.endpoints};
+Platform watched(const Platform &ports, IdleWatch &idle, ReadWatch &reads, Reachability &reachability) {
+    return {ports.clock,  ports.mainQueue, idle,          reads,       ports.store,
+            reachability, ports.bundle,    ports.console, ports.fatal, ports.endpoints};
+}
+
+/// Showing a number's messages makes it the current one; the application's own choice changes only where that
+/// was asked for.
+QString dataFolderFor(const CommandLine &line, const QTemporaryDir &scratch) {
+    if (!line.usesData()) return scratch.path();
+    return line.dataFolder.isEmpty() ? LinuxPlatform::defaultDataFolder() : line.dataFolder;
 }
 
 int runCommand(const CommandLine &line, const Endpoints &endpoints) {
-    // Showing a number's messages makes it the current one; the application's own choice must not change by
-    // that.
     const QTemporaryDir scratch;
     LinuxPlatform phone(
-        {.dataFolder = scratch.path(),
+        {.dataFolder = dataFolderFor(line, scratch),
          .endpoints = endpoints,
          .infoValues = {{QStringLiteral("CFBundleDisplayName"), QStringLiteral("Orl")},
                         {QStringLiteral("CFBundleShortVersionString"), QStringLiteral(ORL_VERSION)}}});
     const Platform ports = phone.platform();
     IdleWatch idle(ports.globalQueue, ports.mainQueue);
     ReadWatch reads(ports.urlReader);
-    Process process(watched(ports, idle, reads));
+    NoNetwork noNetwork;
+    const bool offline = line.command == CommandLine::Command::History;
+    Process process(watched(ports, idle, reads, offline ? noNetwork : ports.reachability));
     Commands commands(
         process, idle, reads,
         {[](const QString &result) { printLine(stdout, result); },
@@ -52,13 +61,31 @@ int runCommand(const CommandLine &line, const Endpoints &endpoints) {
     return code;
 }
 
+/// Nothing is flushed in between: a page may have many lines.
+int runHtml(const QStringList &arguments) {
+    const ExitCode code = runHtmlCommand(
+        arguments, {[] {
+                        QFile input;
+                        return input.open(stdin, QIODevice::ReadOnly) ? input.readAll() : QByteArray();
+                    },
+                    [](std::string_view line) {
+                        std::fwrite(line.data(), 1, line.size(), stdout);
+                        std::fputc('\n', stdout);
+                    },
+                    [](const QString &notice) { printLine(stderr, QStringLiteral("orl-cli: ") + notice); }});
+    return int(code);
+}
+
 } // namespace
 
 int main(int argc, char **argv) {
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("orl"));
 
-    const Result<CommandLine> line = CommandLine::parse(QCoreApplication::arguments());
+    const QStringList typed = QCoreApplication::arguments();
+    if (typed.value(1) == QLatin1String("html")) return runHtml(typed.mid(2));
+
+    const Result<CommandLine> line = CommandLine::parse(typed);
     if (!line.ok())
         return endWith(ExitCode::WrongUse, line.error().description + QStringLiteral(" (see --help)"));
     if (line.value().command == CommandLine::Command::Help) {

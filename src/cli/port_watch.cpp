@@ -15,15 +15,18 @@ void IdleWatch::post(Task task) {
 }
 
 void IdleWatch::whenIdle(Task done) {
-    // What the last work item posted stands in the main queue ahead of this check, as an item counts until it
-    // has returned; and whatever that starts counts again by then.
-    mainQueue_.postAfter(5ms, [this, done = std::move(done)]() mutable {
-        if (*running_ > 0) return whenIdle(std::move(done));
-        mainQueue_.post([this, done = std::move(done)]() mutable {
-            if (*running_ > 0) return whenIdle(std::move(done));
-            done();
-        });
-    });
+    mainQueue_.postAfter(5ms,
+                         [this, done = std::move(done)]() mutable { passRounds(std::move(done), rounds); });
+}
+
+// What the last work item posted stands in the main queue ahead of this round, as an item counts until it has
+// returned; what that posts in turn stands ahead of the next round; and whatever work that starts counts
+// again by then.
+void IdleWatch::passRounds(Task done, int left) {
+    if (*running_ > 0) return whenIdle(std::move(done));
+    if (left == 0) return done();
+    mainQueue_.post(
+        [this, done = std::move(done), left]() mutable { passRounds(std::move(done), left - 1); });
 }
 
 Result<UrlResponse> ReadWatch::read(const UrlRequest &request) {

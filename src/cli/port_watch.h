@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/queues.h"
+#include "platform/reachability.h"
 #include "platform/url_reader.h"
 
 #include <atomic>
@@ -22,6 +23,11 @@ public:
     void whenIdle(Task done);
 
 private:
+    /// How many main tasks deep a work item's results may be handed on.
+    static constexpr int rounds = 4;
+
+    void passRounds(Task done, int left);
+
     GlobalQueue &queue_;
     MainQueue &mainQueue_;
     std::shared_ptr<std::atomic<int>> running_ = std::make_shared<std::atomic<int>>(0);
@@ -40,6 +46,13 @@ public:
 private:
     UrlReader &reader_;
     std::atomic<int> failures_ = 0;
+};
+
+/// A network that leads nowhere, for commands that need none: nothing is fetched that nobody waits for.
+class NoNetwork : public Reachability {
+public:
+    bool canTarget(const QString &) const override { return true; }
+    std::optional<unsigned> flags(const QString &) const override { return 0; }
 };
 
 } // namespace orl

@@ -72,9 +72,10 @@ void Catalogue::drawNumbers(std::size_t country, quint64 seed, Website website, 
         const QString digits = digitsOf(text);
         if (places_.contains(digits)) continue;
         // The number a user is most likely to try first is never a quiet one.
-        const bool quiet = !numbers.empty() && random.oneIn(6);
+        const bool brief = website == Website::First && std::ssize(numbers) == count - 1;
+        const bool quiet = !numbers.empty() && random.oneIn(6) && !brief;
         places_.insert(digits, {country, numbers.size(), website});
-        numbers.push_back({website == Website::First ? u'+' + digits : text, digits, website, quiet,
+        numbers.push_back({website == Website::First ? u'+' + digits : text, digits, website, quiet, brief,
                            QString::fromUtf8(row.languages).split(u' ')});
     }
 }

@@ -17,6 +17,9 @@ struct Number {
     QString digits; ///< as it stands in a path: "12025550123"
     Website website = Website::First;
     bool quiet = false; ///< hardly anybody uses it: a handful of messages, hours apart
+    /// Lively, but its website keeps the newest few messages only: all of them stand on one page. The last
+    /// number of each country on the first website is one.
+    bool brief = false;
     QStringList languages;
 };
 

@@ -1,6 +1,8 @@
 #include "demo_host.h"
 
+#include "advertising.h"
 #include "first_website.h"
+#include "legal_pages.h"
 #include "second_website.h"
 #include "server.h"
 
@@ -40,14 +42,16 @@ struct DemoHost::World {
 
     demo::Server::Services services() const {
         return {{u"config"_s, &configuration}, {u"first"_s, &first},       {u"second"_s, &second},
-                {u"mail"_s, &unserved},        {u"identity"_s, &unserved}, {u"ads"_s, &unserved},
-                {u"legal"_s, &unserved},       {u"store"_s, &unserved},    {u"probe"_s, &probe}};
+                {u"mail"_s, &unserved},        {u"identity"_s, &unserved}, {u"ads"_s, &advertising},
+                {u"legal"_s, &legal},          {u"store"_s, &unserved},    {u"probe"_s, &probe}};
     }
 
     demo::Catalogue catalogue;
     demo::ConfigurationDocuments configuration;
     demo::FirstWebsite first;
     demo::SecondWebsite second;
+    demo::LegalPages legal;
+    demo::Advertising advertising;
     Unserved unserved;
     Probe probe;
     demo::FaultTable faults;

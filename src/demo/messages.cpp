@@ -130,7 +130,7 @@ MessageSchedule::MessageSchedule(quint64 seed, const Number &number)
     spread_ = slotLength_ * 5 / 7;
     phase_ = static_cast<qint64>(random.next() % static_cast<quint64>(slotLength_));
     pageSize_ = 9 + random.below(4);
-    kept_ = number.quiet ? 3 + random.below(5) : lastPage * pageSize_;
+    kept_ = number.quiet || number.brief ? 3 + random.below(5) : lastPage * pageSize_;
     for (int i = 0; i < 9; ++i)
         services_.push_back(QString::fromUtf8(random.pick(serviceNames()).name));
     for (int i = 0; i < 3; ++i)

@@ -23,7 +23,8 @@ struct ReceivedMessage {
 ///
 /// Time is cut into equal slots with one message at a drawn moment of each, so that any point in time can be
 /// looked up without playing the past: on a lively number the gaps are 2 to 12 seconds. A quiet number holds
-/// 3 to 7 messages some hours apart. The same seed and number give the same timetable in every run.
+/// 3 to 7 messages some hours apart; a brief one holds as few and is lively. The same seed and number give
+/// the same timetable in every run.
 class MessageSchedule {
 public:
     MessageSchedule(quint64 seed, const Number &number);

@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QUrl>
 
+#include <algorithm>
 #include <chrono>
 #include <optional>
 
@@ -16,6 +17,8 @@ struct UrlRequest {
     bool ignoreCache = false; ///< neither read from nor write to any cache between here and the host
     std::optional<std::chrono::milliseconds> timeout = {}; ///< none: as long as the platform's reads last
     QHash<QByteArray, QByteArray> headers = {};
+    bool sameOrigin = false;              ///< a redirect to another scheme, host or port is an error
+    std::optional<qint64> mostBytes = {}; ///< a longer body is an error; none: as for all reads
 };
 
 /// What a host answered. The status is told and seldom looked at: an error page is bytes like any other.
@@ -34,6 +37,11 @@ public:
     /// Blocks the calling thread until the whole body is here. Callable from any thread; the main thread
     /// calls it only where it is meant to be held up.
     virtual Result<UrlResponse> read(const UrlRequest &request) = 0;
+
+    /// How long the body of this request may be.
+    static qint64 mostBytes(const UrlRequest &request) {
+        return std::min(request.mostBytes.value_or(maxBodyBytes), maxBodyBytes);
+    }
 };
 
 /// Reads a URL as UTF-8 text. A body that is no valid UTF-8 is an error: half a page would look like a whole

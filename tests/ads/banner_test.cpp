@@ -80,8 +80,8 @@ TEST_F(BannerTest, OneLoadedBannerMakesAllCountAsLoadedAtTheirNextTick) {
     EXPECT_FALSE(first.isLoaded() || second.isLoaded());
     phone.advance(1ms);
     EXPECT_TRUE(first.isLoaded() && second.isLoaded());
-    EXPECT_NE(first.assets(), nullptr);
-    EXPECT_EQ(second.assets(), nullptr);
+    EXPECT_EQ(first.face().headline(), QStringLiteral("banner"));
+    EXPECT_FALSE(second.hasFace());
     const BannerView third(*process, *appVM);
     EXPECT_EQ(third.status(), AdStatus::none);
     phone.advance(500ms);
@@ -112,6 +112,10 @@ TEST_F(BannerTest, AnInlineBannerTellsWhatBecameOfIt) {
     phone.advance(1s);
     EXPECT_FALSE(failed.isLoaded()) << "no gap where no ad came";
     EXPECT_EQ(told, (QList{true, false}));
+    const BannerView anchored(*process, *appVM);
+    phone.advance(1s);
+    EXPECT_FALSE(anchored.isLoaded()) << "the two kinds have each their own status";
+    EXPECT_EQ(process->shared<InlineBannerAd>().status, AdStatus::loaded);
 }
 
 TEST_F(BannerTest, ABannerThatGoesTakesItsLoadAndItsTimerAlong) {

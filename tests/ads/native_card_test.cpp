@@ -17,7 +17,7 @@ struct NativeCardTest : AdsTest {
     }
 
     static QString headline(const std::unique_ptr<NativeAdCardView> &card) {
-        return card->nativeAdView() ? card->nativeAdView()->headline() : QString();
+        return card->nativeAdView() ? card->nativeAdView()->face().headline() : QString();
     }
 };
 
@@ -76,7 +76,7 @@ TEST_F(NativeCardTest, AHeldAdIsUsedAgainForNinetyNineSeconds) {
         NativeAdController again(*process, model("slot"));
         again.viewDidLoad();
         EXPECT_EQ(ads.asked().isEmpty(), row.reused);
-        EXPECT_EQ(again.nativeAdView()->headline(), row.reused ? QStringLiteral("kept") : QString());
+        EXPECT_EQ(again.nativeAdView()->face().headline(), row.reused ? QStringLiteral("kept") : QString());
         EXPECT_EQ(again.nativeAdView()->spinning(), !row.reused);
         EXPECT_EQ(again.alpha(), row.reused ? 1 : 0);
         NativeAdController other(*process, model("another slot"));
@@ -109,11 +109,14 @@ TEST_F(NativeCardTest, AFilledCardShowsTheAssetsThatTheAdHas) {
     NativeAdView &view = *controller.nativeAdView();
     EXPECT_EQ(controller.alpha(), 1);
     EXPECT_FALSE(view.spinning());
-    EXPECT_EQ(view.headline(), QStringLiteral("Tea"));
-    EXPECT_EQ(view.callToAction(), QStringLiteral("Sip"));
-    EXPECT_EQ(view.body() + view.advertiser() + view.store() + view.price(), QString());
-    EXPECT_EQ(view.stars(), QStringLiteral("stars_4_5"));
-    EXPECT_TRUE(view.hasVideoContent());
+    const AdFace face = view.face();
+    EXPECT_EQ(face.headline(), QStringLiteral("Tea"));
+    EXPECT_EQ(face.callToAction(), QStringLiteral("Sip"));
+    EXPECT_EQ(face.body() + face.advertiser() + face.store() + face.price() + face.icon(), QString());
+    EXPECT_EQ(face.stars(), QStringLiteral("stars_4_5"));
+    EXPECT_EQ(process->shared<AdPictures>().bytes(face.media()), QByteArray("png"));
+    EXPECT_TRUE(face.hasVideoContent());
+    EXPECT_EQ(face.frames() * face.frameMilliseconds(), 2000);
     view.tap();
     EXPECT_EQ(ad->taps, 1);
     view.videoDidEnd();
@@ -121,6 +124,22 @@ TEST_F(NativeCardTest, AFilledCardShowsTheAssetsThatTheAdHas) {
     const NativeAd &shared = process->shared<NativeAd>();
     EXPECT_EQ(shared.view(NativeAdType::INSIDE_CHAT).get(), &view);
     EXPECT_EQ(shared.state(NativeAdType::INSIDE_CHAT), NativeAdState::loaded);
+}
+
+TEST_F(NativeCardTest, PicturesStayAsLongAsAFaceShowsThem) {
+    auto &pictures = process->shared<AdPictures>();
+    auto face = std::make_unique<AdFace>(*process, AdAssets{.icon = "icon", .media = {.picture = "media"}});
+    const AdFace copy = *face;
+    const QString key = face->icon();
+    face.reset();
+    EXPECT_EQ(pictures.bytes(key), QByteArray("icon"));
+    EXPECT_EQ(pictures.bytes(copy.media()), QByteArray("media"));
+    EXPECT_TRUE(pictures.bytes(QStringLiteral("another key")).isEmpty());
+    QString gone;
+    for (int i = 0; i < 100; ++i)
+        gone = AdFace(*process, AdAssets{.icon = "many"}).icon();
+    EXPECT_TRUE(pictures.bytes(gone).isEmpty());
+    EXPECT_LE(pictures.held(), 3) << "hours of ads do not pile up";
 }
 
 TEST_F(NativeCardTest, ACardIsShownAtTheTickAfterItsAdArrived) {
@@ -148,7 +167,9 @@ TEST_F(NativeCardTest, CardsOfOneTypeShowTheCardThatArrivedLast) {
     EXPECT_EQ(first->nativeAdView(), second->nativeAdView());
     EXPECT_FALSE(other->isLoaded());
     ads.natives[1]->receive("too late");
+    ads.natives[0]->refuse();
     phone.advance(500ms);
+    EXPECT_TRUE(first->isLoaded());
     EXPECT_EQ(headline(first), QStringLiteral("first, but later")) << "a shown card stays as it is";
 }
 

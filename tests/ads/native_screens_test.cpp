@@ -31,7 +31,7 @@ TEST_F(NativeScreensTest, TheCardComesThreeSecondsAfterItsAdIsSeenAndClosesFourL
     EXPECT_FALSE(view->isPresented() || view->displayNativeAd());
     phone.advance(1ms);
     EXPECT_TRUE(view->isPresented() && view->displayNativeAd());
-    EXPECT_EQ(view->nativeAdView()->headline(), QStringLiteral("home ad"));
+    EXPECT_EQ(view->nativeAdView()->face().headline(), QStringLiteral("home ad"));
     view->close();
     EXPECT_TRUE(view->isPresented()) << "there is nothing to tap yet";
     phone.advance(3999ms);
@@ -58,10 +58,10 @@ TEST_F(NativeScreensTest, WithoutThisLookAnInlineBannerTakesTheSameSteps) {
     EXPECT_TRUE(view->isPresented());
     EXPECT_EQ(view->nativeAdState(), NativeAdState::loaded);
     EXPECT_TRUE(view->banner()->isLoaded());
-    ads.banners[0]->receive(); // the next picture of the same banner
     phone.advance(4s);
     EXPECT_TRUE(view->showXMark());
     view->close();
+    ads.banners[0]->receive(); // the next picture of the same banner
     phone.advance(1min);
     EXPECT_FALSE(view->isPresented());
 }

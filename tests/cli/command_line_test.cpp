@@ -22,6 +22,19 @@ TEST(CommandLineTest, RejectsWrongUseInWords) {
         {"a country is needed", {"numbers"}, "usage: orl-cli numbers COUNTRY"},
         {"a number is needed", {"messages", "France"}, "usage: orl-cli messages COUNTRY NUMBER [--watch]"},
         {"watch elsewhere", {"numbers", "France", "--watch"}, "--watch goes with messages only"},
+        {"history takes nothing", {"history", "France"}, "usage: orl-cli history"},
+        {"choose needs a number", {"choose", "France"}, "usage: orl-cli choose COUNTRY NUMBER"},
+        {"wait needs a number",
+         {"wait", "France"},
+         "usage: orl-cli wait COUNTRY NUMBER [--code] [--timeout SECONDS]"},
+        {"code elsewhere", {"messages", "France", "1", "--code"}, "--code goes with wait only"},
+        {"timeout elsewhere", {"history", "--timeout", "5"}, "--timeout goes with wait only"},
+        {"timeout in words", {"wait", "France", "1", "--timeout", "ten"}, "--timeout needs whole seconds"},
+        {"no time at all", {"wait", "France", "1", "--timeout", "0"}, "--timeout needs whole seconds"},
+        {"data elsewhere",
+         {"messages", "France", "1", "--data", "here"},
+         "--data goes with history and choose only"},
+        {"data", {"history", "--data", "here"}, {}},
         {"unknown option", {"numbers", "France", "--fast"}, "Unknown option 'fast'."},
         {"a file is needed", {"countries", "--endpoints"}, "Missing value after '--endpoints'."},
     };
@@ -41,6 +54,16 @@ TEST(CommandLineTest, TakesOptionsAnywhere) {
     EXPECT_TRUE(line.value().json);
     EXPECT_TRUE(line.value().watch);
     EXPECT_EQ(line.value().endpointsFile, "here");
+}
+
+TEST(CommandLineTest, WaitTakesATimeout) {
+    const Result<CommandLine> line =
+        CommandLine::parse({"orl-cli", "wait", "France", "1", "--code", "--timeout", "90"});
+    ASSERT_TRUE(line.ok());
+    EXPECT_EQ(line.value().command, CommandLine::Command::Wait);
+    EXPECT_TRUE(line.value().code);
+    EXPECT_EQ(line.value().timeout, std::chrono::seconds(90));
+    EXPECT_EQ(CommandLine::parse({"orl-cli", "wait", "France", "1"}).value().timeout, std::nullopt);
 }
 
 TEST(CommandLineTest, HelpNeedsNoCommand) {

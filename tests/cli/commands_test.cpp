@@ -57,9 +57,27 @@ protected:
         return exitCode;
     }
 
-    Platform watchedPlatform() {
+    /// The next run of the program on the same store. It stays until the one after it.
+    std::optional<ExitCode> runAgain(const QStringList &arguments) {
+        phone.endProcess();
+        results.clear();
+        notices.clear();
+        exitCode.reset();
+        again.reset();
+        nextIdle = std::make_unique<IdleWatch>(phone.globalQueue, phone.mainQueue);
+        nextProcess = std::make_unique<Process>(watchedPlatform(*nextIdle));
+        again = std::make_unique<Commands>(*nextProcess, *nextIdle, reads, output);
+        const auto line = CommandLine::parse(QStringList{QStringLiteral("orl-cli")} + arguments);
+        EXPECT_TRUE(line.ok());
+        again->run(line.value(), [this](ExitCode code) { exitCode = code; });
+        phone.advance(5s);
+        return exitCode;
+    }
+
+    Platform watchedPlatform() { return watchedPlatform(idle); }
+    Platform watchedPlatform(IdleWatch &watch) {
         Platform ports = phone.platform();
-        return {ports.clock,        ports.mainQueue, idle,          reads,       ports.store,
+        return {ports.clock,        ports.mainQueue, watch,         reads,       ports.store,
                 ports.reachability, ports.bundle,    ports.console, ports.fatal, ports.endpoints};
     }
 
@@ -69,11 +87,12 @@ protected:
     Process process{watchedPlatform()};
     QStringList results, notices;
     std::optional<ExitCode> exitCode;
-    Commands commands{
-        process,
-        idle,
-        reads,
-        {[this](const QString &line) { results << line; }, [this](const QString &line) { notices << line; }}};
+    const Commands::Output output{[this](const QString &line) { results << line; },
+                                  [this](const QString &line) { notices << line; }};
+    Commands commands{process, idle, reads, output};
+    std::unique_ptr<IdleWatch> nextIdle;
+    std::unique_ptr<Process> nextProcess;
+    std::unique_ptr<Commands> again;
 };
 
 TEST_F(CommandsTest, CountriesAreFoundByNameAndPrefix) {
@@ -118,6 +137,125 @@ TEST_F(CommandsTest, WatchingPrintsEachNewMessageOnceAndStays) {
     EXPECT_EQ(results,
               (QStringList{"2026-01-01 10:00:03  Shop: code 3", "2026-01-01 10:00:03  Shop: code 3"}));
     EXPECT_EQ(exitCode, std::nullopt);
+}
+
+struct WaitTest : CommandsTest {
+    const QByteArray old = message("Bank", "old code 1111", "10:00:02");
+
+    /// Waits on a page with one old message; then these come, and ten seconds pass.
+    std::optional<ExitCode> waitFor(const QByteArray &newer, const QStringList &options) {
+        phone.urls.answer(first("/en/numbers/3355501"), old);
+        EXPECT_EQ(run(QStringList{"wait", "France", "3355501"} + options), std::nullopt);
+        EXPECT_TRUE(results.isEmpty()) << "what was there before does not count";
+        phone.urls.answer(first("/en/numbers/3355501"), newer + old);
+        phone.advance(10s);
+        return exitCode;
+    }
+};
+
+TEST_F(WaitTest, PrintsTheFirstCodeOrLinkThatArrives) {
+    struct Case {
+        const char *name;
+        QByteArray newer;
+        QStringList results;
+    };
+    const Case cases[] = {
+        {"code", message("Shop", "Your code is 123-456, see a.com", "10:00:03"), {"123456"}},
+        {"international", message("Shop", "Call +44 123", "10:00:03"), {"+44123"}},
+        {"link", message("Shop", "Tap https://a.example/x.", "10:00:03"), {"https://a.example/x"}},
+        {"oldest of two",
+         message("Shop", "code 4444", "10:00:04") + message("Shop", "code 3333", "10:00:03"),
+         {"3333"}},
+        {"same text as before", message("Bank", "old code 1111", "10:00:03"), {"1111"}},
+        {"one without comes first",
+         message("Shop", "code 4444", "10:00:04") + message("Shop", "welcome", "10:00:03"),
+         {"4444"}},
+    };
+    for (const Case &row : cases) {
+        SCOPED_TRACE(row.name);
+        phone.urls.answer(first("/en/numbers/3355501"), old);
+        runAgain({"wait", "France", "3355501", "--code"});
+        EXPECT_TRUE(results.isEmpty());
+        phone.urls.answer(first("/en/numbers/3355501"), row.newer + old);
+        phone.advance(10s);
+        EXPECT_EQ(results, row.results);
+        EXPECT_EQ(exitCode, ExitCode::Done);
+        phone.advance(1min);
+        EXPECT_EQ(results.size(), 1) << "it ends once";
+    }
+}
+
+TEST_F(WaitTest, AMessageWithoutCodeCountsUnlessCodesWereAskedFor) {
+    EXPECT_EQ(waitFor(message("Shop", "welcome", "10:00:03"), {}), ExitCode::Done);
+    EXPECT_EQ(results, QStringList{"2026-01-01 10:00:03  Shop: welcome"});
+}
+
+TEST_F(WaitTest, JsonTellsTheMessageBesideItsCode) {
+    EXPECT_EQ(waitFor(message("Shop", "code 4444", "10:00:03"), {"--code", "--json"}), ExitCode::Done);
+    EXPECT_EQ(QJsonDocument::fromJson(results.value(0).toUtf8()).object(),
+              (QJsonObject{{"code", "4444"},
+                           {"sender", "Shop"},
+                           {"content", "code 4444"},
+                           {"time", "2026-01-01T10:00:03.000Z"}}));
+}
+
+TEST_F(WaitTest, GivesUpAfterTheTimeout) {
+    EXPECT_EQ(waitFor(message("Shop", "welcome", "10:00:03"), {"--code", "--timeout", "30"}), std::nullopt);
+    phone.advance(14s);
+    EXPECT_EQ(exitCode, std::nullopt);
+    phone.advance(1s);
+    EXPECT_EQ(exitCode, ExitCode::NothingFound);
+    EXPECT_EQ(notices, QStringList{"nothing came within 30 seconds"});
+    EXPECT_TRUE(results.isEmpty());
+}
+
+TEST_F(WaitTest, ThePageThatCouldNotBeReadAtFirstIsNotTakenForNews) {
+    phone.urls.answer(first("/en/numbers/3355501"), Error{"no route"});
+    EXPECT_EQ(run({"wait", "France", "3355501", "--code"}), std::nullopt);
+    phone.urls.answer(first("/en/numbers/3355501"), old);
+    phone.advance(20s);
+    EXPECT_EQ(exitCode, std::nullopt);
+    phone.urls.answer(first("/en/numbers/3355501"), message("Shop", "code 4444", "10:00:03") + old);
+    phone.advance(10s);
+    EXPECT_EQ(results, QStringList{"4444"});
+}
+
+TEST_F(CommandsTest, ChosenNumbersStandInTheHistory) {
+    EXPECT_EQ(run({"choose", "france", "33 555 02"}), ExitCode::Done);
+    EXPECT_EQ(results, QStringList{"+33 555 02"});
+    EXPECT_EQ(runAgain({"choose", "France", "3355501"}), ExitCode::Done);
+    EXPECT_EQ(runAgain({"history"}), ExitCode::Done);
+    ASSERT_EQ(results.size(), 2);
+    EXPECT_TRUE(results[0].endsWith("+33 555 01  France")) << results[0].toStdString();
+    EXPECT_TRUE(results[1].endsWith("+33 555 02  France")) << results[1].toStdString();
+    EXPECT_TRUE(results[0].startsWith("2026-01-01 00:00:"));
+
+    EXPECT_EQ(runAgain({"history", "--json"}), ExitCode::Done);
+    const QJsonArray list = QJsonDocument::fromJson(results.value(0).toUtf8()).array();
+    ASSERT_EQ(list.size(), 2);
+    EXPECT_EQ(list[0]["phoneNumber"]["number"], "+33 555 01");
+}
+
+TEST_F(CommandsTest, ChoosingHoldsToTheAllowance) {
+    EXPECT_EQ(run({"choose", "France", "3355501"}), ExitCode::Done);
+    EXPECT_EQ(runAgain({"choose", "France", "3355501"}), ExitCode::Done);
+    const QString used = QStringLiteral("chose_numbers_count_key");
+    EXPECT_EQ(phone.store.integer(used), 1) << "the current number is not chosen again";
+    phone.store.setValue(used, qint64(3));
+    EXPECT_EQ(runAgain({"choose", "France", "3355501"}), ExitCode::Done);
+    EXPECT_EQ(runAgain({"choose", "France", "3355502"}), ExitCode::NothingFound);
+    EXPECT_EQ(notices.size(), 1);
+    EXPECT_EQ(phone.store.integer(used), 3);
+    EXPECT_EQ(runAgain({"choose", "France", "99"}), ExitCode::NothingFound);
+}
+
+TEST_F(CommandsTest, AHistoryThatIsNotThereOrCannotBeReadIsNothingFound) {
+    EXPECT_EQ(run({"history"}), ExitCode::NothingFound);
+    EXPECT_EQ(notices, QStringList{"no number was chosen yet"});
+    phone.store.setValue(QStringLiteral("history_key"), QByteArray("[{]"));
+    EXPECT_EQ(runAgain({"history"}), ExitCode::NothingFound);
+    EXPECT_TRUE(phone.console.lines.constLast().startsWith("Failed to update history: "));
+    EXPECT_EQ(phone.store.data(QStringLiteral("history_key")), QByteArray("[{]"));
 }
 
 TEST_F(CommandsTest, AnEndpointThatFailsIsToldApartFromNothingFound) {

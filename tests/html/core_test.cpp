@@ -1,7 +1,9 @@
 // The memory under the tree: names, links, holders, and what is given back when.
 #include "core.h"
 
+#include <cstring>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 namespace orl::html::core {
 namespace {
@@ -173,6 +175,26 @@ TEST(SpaceTest, ChunksComeBack) {
             arenas[i]->destroy();
         EXPECT_EQ(spaceInUse(), before);
     }
+}
+
+/// Memory that was just used is handed out again, also beside a stretch that was too large to be kept.
+TEST(SpaceTest, MemoryStaysReadyAfterALargePage) {
+    constexpr std::size_t large = std::size_t(100) << 20, small = std::size_t(1) << 20;
+    giveBack(takeChunk(large));
+    const auto faults = [] {
+        rusage usage{};
+        getrusage(RUSAGE_SELF, &usage);
+        return usage.ru_minflt;
+    };
+    const auto before = faults();
+    constexpr int rounds = 200;
+    for (int i = 0; i < rounds; ++i) {
+        Chunk *const chunk = takeChunk(small);
+        std::memset(chunk + 1, i, small - sizeof(Chunk));
+        giveBack(chunk);
+    }
+    constexpr long pagesOfOne = small / 4096;
+    EXPECT_LT(faults() - before, rounds * pagesOfOne / 4);
 }
 
 } // namespace

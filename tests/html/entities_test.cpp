@@ -108,6 +108,16 @@ TEST(EntitiesTest, Unescapes) {
     EXPECT_EQ(Entities::unescape(text), expected);
 }
 
+/// Names of two scalars stand under their first one, and the last name in order is taken.
+TEST(EntitiesTest, NamesOfTwoScalarsMayStandForTheirFirst) {
+    OutputSettings settings;
+    settings.escapeMode(Mode::extended()).charset("US-ASCII");
+    EXPECT_EQ(Entities::escape("\u228a", settings), "&vsubne;");
+    EXPECT_EQ(Entities::unescape("&vsubne;"), "\u228a\ufe00");
+    settings.charset("UTF-8");
+    EXPECT_EQ(Entities::escape("\u228a", settings), "\u228a");
+}
+
 TEST(EntitiesTest, KnowsEncodings) {
     EXPECT_EQ(TextEncoding::named("utf8")->name(), "UTF-8");
     EXPECT_EQ(TextEncoding::named("latin1")->name(), "ISO-8859-1");

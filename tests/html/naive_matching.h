@@ -98,9 +98,10 @@ inline bool matchesRelated(const StructuralEvaluator &evaluator, const Element &
 
 inline bool matchesAttribute(const Evaluator::AttributeKeyPair &evaluator, const Element &element) {
     using E = Evaluator;
+    const bool differs = dynamic_cast<const E::AttributeWithValueNot *>(&evaluator);
+    if (!differs && !element.hasAttr(evaluator.key())) return false;
     const std::string has = lower(element.attr(evaluator.key())), &wanted = evaluator.value();
-    if (dynamic_cast<const E::AttributeWithValueNot *>(&evaluator)) return has != wanted;
-    if (!element.hasAttr(evaluator.key())) return false;
+    if (differs) return has != wanted;
     if (dynamic_cast<const E::AttributeWithValue *>(&evaluator)) return trim(has) == wanted;
     if (dynamic_cast<const E::AttributeWithValueStarting *>(&evaluator)) return has.starts_with(wanted);
     if (dynamic_cast<const E::AttributeWithValueEnding *>(&evaluator)) return has.ends_with(wanted);

@@ -108,6 +108,12 @@ TEST_F(SelectorTest, ByAttribute) {
                        {"i[id*='']", "i1 i2"}});
 }
 
+/// An attribute is read only where it is there, except to see whether it differs.
+TEST_F(SelectorTest, FailsWhereReadingAnAttributeFails) {
+    expectFound(page, {{"p[abs:=z]", ""}, {"nothing[abs:!=z]", ""}, {"p:has([abs:!=z])", ""}});
+    EXPECT_THROW(page.select("p[abs:!=z]"), Exception::Error);
+}
+
 TEST_F(SelectorTest, ByRelation) {
     expectFound(page, {{"div p", "p1 p2"},
                        {"body > p", "p3"},

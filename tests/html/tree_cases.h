@@ -377,6 +377,16 @@ b</textarea>)", R"(
 |     "c"
 | "d"
 )"},
+    {"an end tag with a case of its own", "<p>a<sarcasm>b<i>c</sarcasm>d", R"(
+| <p>
+|   "a"
+|   <sarcasm>
+|     "b"
+|     <i>
+|       "c"
+|   <i>
+|     "d"
+)"},
     {"image means img", "<image src=a>", R"(
 | <img>
 |   src="a"

@@ -34,6 +34,13 @@ TEST(RelativeTime, UsesTheLargestUnitThatHasPassed) {
         {-3 * minute, "de", "vor 3 Minuten"},
         {2 * day, "fr", "dans 2 jours"},
         {-2 * hour, "ar", "قبل ساعتين"},
+        {-22 * minute, "ru", "22 минуты назад"},
+        {-25 * minute, "ru", "25 минут назад"},
+        {-5 * hour, "pl", "5 godzin temu"},
+        {-3 * day, "ja", "3 日前"},
+        {-minute, "zh", "1分钟前"},
+        {-2 * day, "pt-BR", "há 2 dias"},
+        {0, "es", "ahora"},
     };
     for (const Case &row : cases) {
         EXPECT_EQ(relativeTime(now + row.offset, now, QLatin1String(row.locale)), QString::fromUtf8(row.text))

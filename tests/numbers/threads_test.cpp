@@ -26,6 +26,11 @@ public:
     void postAfter(std::chrono::milliseconds, Task) override {}
     std::unique_ptr<RepeatingTimer> every(std::chrono::milliseconds, Task) override { return nullptr; }
 
+    bool isEmpty() {
+        const std::lock_guard lock(mutex_);
+        return tasks_.empty();
+    }
+
     void runNext() {
         std::unique_lock lock(mutex_);
         changed_.wait(lock, [this] { return !tasks_.empty(); });
@@ -56,8 +61,9 @@ public:
         });
     }
 
+    /// What a result posts in turn stands behind the end of its item, so the queue is emptied, too.
     void runMainUntilAllIsDone() {
-        while (unfinished_ > 0)
+        while (unfinished_ > 0 || !main_.isEmpty())
             main_.runNext();
     }
 

@@ -1,3 +1,5 @@
+#include "screens/conversation_view.h"
+#include "screens/full_swipe_pop_helper.h"
 #include "screens/review_prompt.h"
 #include "screens/screens.h"
 #include "screens_phone.h"
@@ -77,11 +79,26 @@ protected:
     }
 
     void showSplash() {
+        makeEngine({{QStringLiteral("content"), QVariant::fromValue(content.get())},
+                    {QStringLiteral("reviewPrompt"), QVariant::fromValue(&prompt_)}});
+        engine_->load(QUrl(QString::fromLatin1(mainWindow)));
+        takeWindow();
+    }
+
+    /// A window with nothing but this in it.
+    void show(const QByteArray &qml, const QVariantMap &properties) {
+        makeEngine(properties);
+        engine_->loadData(qml);
+        takeWindow();
+    }
+
+    void makeEngine(const QVariantMap &properties) {
         engine_ = std::make_unique<QQmlApplicationEngine>();
         prepareScreens(*engine_, process->platform());
-        engine_->setInitialProperties({{QStringLiteral("content"), QVariant::fromValue(content.get())},
-                                       {QStringLiteral("reviewPrompt"), QVariant::fromValue(&prompt_)}});
-        engine_->load(QUrl(QString::fromLatin1(mainWindow)));
+        engine_->setInitialProperties(properties);
+    }
+
+    void takeWindow() {
         window_ = qobject_cast<QQuickWindow *>(engine_->rootObjects().value(0));
         ASSERT_NE(window_, nullptr) << complaints.join(u'\n').toStdString();
         window_->resize(GetParam().width, GetParam().height);
@@ -189,12 +206,12 @@ private:
     }
 
     QtMessageHandler previous_ = nullptr;
-    std::unique_ptr<QQmlApplicationEngine> engine_;
     QPointingDevice *finger_ = nullptr;
     QPoint last_;
 
 protected:
     ReviewPrompt prompt_{browser, QUrl()};
+    std::unique_ptr<QQmlApplicationEngine> engine_;
     QQuickWindow *window_ = nullptr;
 };
 
@@ -265,6 +282,33 @@ TEST_P(LayoutTest, Home) {
     EXPECT_EQ(content->home()->similar()->count(), 2);
 }
 
+constexpr char conversationOverHome[] = R"(
+    import QtQuick
+    import Orl.Screens
+    Window {
+        id: root
+        required property Appearance appearance
+        required property HomeView home
+        required property ConversationView conversation
+        required property FullSwipePopHelper swipe
+        visible: true
+        color: Theme.background
+        LayoutMirroring.enabled: appearance.rightToLeft
+        LayoutMirroring.childrenInherit: true
+        Binding { target: Theme; property: "dark"; value: root.appearance.dark }
+        Binding { target: Theme; property: "textScale"; value: root.appearance.textScale }
+        Binding { target: Theme; property: "reducedMotion"; value: root.appearance.reducedMotion }
+        FullSwipePop {
+            anchors.fill: parent
+            helper: root.swipe
+            content: Component { ConversationScreen { view: root.conversation } }
+            HomeScreen {
+                anchors.fill: parent
+                view: root.home
+            }
+        }
+    })";
+
 TEST_P(LayoutTest, Conversation) {
     QList<Sms> messages = lively;
     for (int i = 1; i <= 6; ++i) {
@@ -274,7 +318,12 @@ TEST_P(LayoutTest, Conversation) {
     messages << Sms{ConversationView::otherSide(), QStringLiteral("Is 12345 right?"), {}};
     phone.urls.answer(secondPageUrl, test::messagePage({}));
     makeHome(messages);
-    show();
+    ConversationView conversation(*process, request(), *content->copyVM());
+    FullSwipePopHelper swipe(request());
+    show(conversationOverHome, {{QStringLiteral("appearance"), QVariant::fromValue(&appearance)},
+                                {QStringLiteral("home"), QVariant::fromValue(content->home())},
+                                {QStringLiteral("conversation"), QVariant::fromValue(&conversation)},
+                                {QStringLiteral("swipe"), QVariant::fromValue(&swipe)}});
     content->home()->showSenders();
     content->home()->tapSender(0);
     look("conversation");
@@ -294,6 +343,7 @@ TEST_P(LayoutTest, Conversation) {
     request().setSelectedConversation(std::nullopt);
     request().setConversation_isPresented(true);
     look("conversation-empty");
+    engine_.reset();
 }
 
 TEST_P(LayoutTest, HomeWithoutMessages) {

@@ -54,7 +54,7 @@ Result<UrlResponse> PlayedUrls::read(const UrlRequest &request) {
     requests.push_back({request, PlayedGlobalQueue::isWorker()});
     const QByteArray url = key(request.url);
     Result<UrlResponse> answer = next(url);
-    if (answer && answer.value().body.size() > maxBodyBytes)
+    if (answer && answer.value().body.size() > mostBytes(request))
         answer = Error{QStringLiteral("The body is too large.")};
     return scripts_[url].hold ? waitForRelease(request, std::move(answer)) : answer;
 }

@@ -25,6 +25,15 @@ public:
         return found && test(found->text());
     }
 
+    /// What `test` says of the value as Node::attr gives it: "" for an element that has not got it. Fails as
+    /// that does for the key "abs:" alone.
+    template<class Test>
+    bool reads(NodeRec *element, Test test) const {
+        if (absolute_) return test(std::string_view(absoluteOn(element)));
+        const AttrRec *found = findAttr(element, anyCase_);
+        return test(found ? found->text() : std::string_view());
+    }
+
 private:
     std::string absoluteOn(NodeRec *element) const;
 

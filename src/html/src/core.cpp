@@ -76,6 +76,12 @@ void Arena::grow(std::size_t bytes) {
     addChunk(std::max(wanted, std::min(maxStep, size_ / 4) + slotSize + 1));
 }
 
+bool Arena::isInOneRow() const {
+    for (const Chunk *chunk = chunks_; chunk->next; chunk = chunk->next)
+        if (chunk < chunk->next) return false;
+    return true;
+}
+
 void Arena::addChunk(std::size_t bytes) {
     Chunk *chunk = takeChunk(bytes);
     chunk->next = chunks_;

@@ -20,6 +20,7 @@
 // Used by one thread at a time, except the space itself and the static names.
 #pragma once
 
+#include "class_index.h"
 #include "names.h"
 #include "space.h"
 
@@ -444,6 +445,15 @@ public:
     /// Changes with each change of the tree or of an attribute that a caller makes.
     std::uint64_t version = 0;
 
+    /// The elements with a class, while the tree is as it was parsed.
+    ClassIndex classes;
+
+    std::uint32_t chunkCount() const { return chunkCount_; }
+    /// Whether each chunk has a higher address than those that were taken before it.
+    bool isInOneRow() const;
+    /// Where the next record will stand, if it fits into the chunk.
+    Ref nextRecord() const { return refOf(cursor_); }
+
     struct Tables; ///< what few pages need: see tables.h
     Tables &tables();
     const Tables *tablesIfAny() const { return tables_.get(); }
@@ -452,6 +462,7 @@ public:
 
 private:
     friend void hold(NodeRec *node);
+    friend void holdAll(NodeRec *const *nodes, std::size_t count);
     friend void release(NodeRec *node);
     friend void dropIfUnheld(NodeRec *node);
     friend void dropChildren(NodeRec *node);
@@ -587,6 +598,18 @@ inline void hold(NodeRec *node) {
         ++node->holders;
     else
         arenaOf(node).holdMore(node);
+}
+
+/// The same for several nodes of one arena, at least one.
+inline void holdAll(NodeRec *const *nodes, std::size_t count) {
+    Arena &arena = arenaOf(*nodes);
+    arena.held_ += count;
+    for (NodeRec *const *node = nodes; node != nodes + count; ++node) {
+        if ((*node)->holders != NodeRec::manyHolders) [[likely]]
+            ++(*node)->holders;
+        else
+            arena.holdMore(*node);
+    }
 }
 
 inline void release(NodeRec *node) {

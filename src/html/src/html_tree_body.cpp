@@ -302,6 +302,7 @@ bool HtmlTreeBuilder::startFrameset(Start &tag) {
     if (open_.size() < 2 || open_.tag(2)->id != TagId::Body || !framesetOk_) return false;
     NodeRec *const body = open_.node(2);
     open_.popDownTo(1);
+    arena().classes.drop();
     detach(body);
     insert(tag);
     transition(State::InFrameset);
@@ -612,6 +613,7 @@ bool HtmlTreeBuilder::adoptionAgency(const End &tag) {
 
 void HtmlTreeBuilder::adopt(Formatting *entry, Place formatPlace, Place furthest) {
     static constexpr int innerRounds = 3;
+    arena().classes.drop();
     NodeRec *const format = entry->node;
     NodeRec *const block = open_.node(furthest);
     NodeRec *last = block;

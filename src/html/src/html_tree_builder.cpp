@@ -53,7 +53,7 @@ void HtmlTreeBuilder::initialiseParse(Arena &arena, std::string_view input, std:
                                       ParseErrorList &errors, const ParseSettings &settings) {
     TreeBuilder::initialiseParse(arena, input, baseUri, errors, settings);
     state_ = originalState_ = State::Initial;
-    baseUriSetFromDoc_ = fosterInserts_ = fragmentParsing_ = false;
+    baseUriSetFromDoc_ = fosterInserts_ = fragmentParsing_ = behindBody_ = false;
     framesetOk_ = true;
     headElement_ = formElement_ = contextElement_ = nullptr;
     clonesLeft_ = freeClones + input.size() / bytesPerClone;
@@ -170,6 +170,9 @@ void HtmlTreeBuilder::insertNode(NodeRec *node) {
         insertInFosterParent(node);
     else
         append(open_.top(), node);
+    if (behindBody_ && isElement(node)) [[unlikely]]
+        arena().classes.drop();
+    if (node->attrCount) arena().classes.note(arena(), node);
     if (formElement_ && isElement(node) && tagOf(node)->has(TagRec::FormListed))
         arena().addToForm(formElement_, node);
 }
@@ -223,6 +226,13 @@ void HtmlTreeBuilder::insert(const Token::Comment &token) {
     insertNode(arena().newComment(token.data));
 }
 
+/// A comment that comes when the body, or the page, is closed. What comes after it may still go into the
+/// body.
+void HtmlTreeBuilder::appendBehind(NodeRec *parent, const Token::Comment &token) {
+    append(parent, arena().newComment(token.data));
+    behindBody_ = true;
+}
+
 void HtmlTreeBuilder::insertText(std::string_view text) {
     NodeRec *const node = arena().newText(text);
     if (fosters()) [[unlikely]]
@@ -236,6 +246,7 @@ void HtmlTreeBuilder::insertRawText(std::string_view text) {
 }
 
 void HtmlTreeBuilder::insertInFosterParent(NodeRec *node) {
+    arena().classes.drop();
     const Place place = open_.newest(TagId::Table);
     if (!place) return append(open_.node(1), node);
     NodeRec *const table = open_.node(place);
@@ -247,6 +258,7 @@ void HtmlTreeBuilder::insertInFosterParent(NodeRec *node) {
 /// many such tags.
 void HtmlTreeBuilder::mergeAttributes(NodeRec *element, const Start &tag, std::unordered_set<Ref> &names) {
     if (tag.attributes.empty()) return;
+    arena().classes.drop();
     if (names.empty()) {
         for (const AttrRec &attribute : attrBlock(element))
             names.insert(attribute.target().name);

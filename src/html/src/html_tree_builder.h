@@ -80,6 +80,7 @@ private:
     NodeRec *insertEmpty(Start &tag);
     NodeRec *insertForm(Start &tag, bool onStack);
     void insert(const Token::Comment &token);
+    void appendBehind(core::NodeRec *parent, const Token::Comment &token);
     void insert(const Token::Char &token) { insertText(token.data); }
     void insertText(std::string_view text);
     /// What a script or style sheet holds.
@@ -200,6 +201,7 @@ private:
     bool framesetOk_ = true;
     bool fosterInserts_ = false;
     bool fragmentParsing_ = false;
+    bool behindBody_ = false; ///< a comment stands behind the body
     NodeRec *headElement_ = nullptr, *formElement_ = nullptr, *contextElement_ = nullptr;
     core::FormattingElements formatting_;
     std::vector<std::string_view> pendingTableCharacters_;

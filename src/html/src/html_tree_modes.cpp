@@ -226,6 +226,7 @@ bool HtmlTreeBuilder::afterHeadStart(Start &tag) {
     }
     if (!isIn(tag, TagSet::AfterHeadMove) || !headElement_) return afterHeadBegin(tag);
     error(State::AfterHead);
+    if (headElement_->next) arena().classes.drop(); // a comment or white space stands behind the head
     open_.push(headElement_, tagRec(TagId::Head));
     process(tag, State::InHead);
     removeFromStack(headElement_);
@@ -587,7 +588,7 @@ bool HtmlTreeBuilder::inSelectInTable(Token &token) {
 bool HtmlTreeBuilder::afterBody(Token &token) {
     if (isWhitespace(token) || isStart(token, TagId::Html)) return process(token, State::InBody);
     if (token.isComment()) {
-        append(open_.node(1), arena().newComment(token.asComment().data));
+        appendBehind(open_.node(1), token.asComment());
         return true;
     }
     if (token.isDoctype()) return error(State::AfterBody);
@@ -650,7 +651,7 @@ bool HtmlTreeBuilder::afterFrameset(Token &token) {
 
 bool HtmlTreeBuilder::afterAfterBody(Token &token) {
     if (token.isComment()) {
-        append(doc_, arena().newComment(token.asComment().data));
+        appendBehind(doc_, token.asComment());
         return true;
     }
     if (token.isDoctype() || isWhitespace(token) || isStart(token, TagId::Html))
@@ -662,7 +663,7 @@ bool HtmlTreeBuilder::afterAfterBody(Token &token) {
 
 bool HtmlTreeBuilder::afterAfterFrameset(Token &token) {
     if (token.isComment()) {
-        append(doc_, arena().newComment(token.asComment().data));
+        appendBehind(doc_, token.asComment());
         return true;
     }
     if (token.isDoctype() || isWhitespace(token) || isStart(token, TagId::Html))

@@ -48,6 +48,15 @@ public:
         return findAll(top, [this](NodeRec *element) { return holds(element); });
     }
 
+    /// Leaves those in the list, which is in document order, for which it holds.
+    virtual void filter(Found &elements) {
+        std::erase_if(elements, [this](NodeRec *element) { return !holds(element); });
+    }
+
+    /// How little findIn looks at.
+    enum class Walk { Tree, Column, Index };
+    virtual Walk walk() const { return Walk::Tree; }
+
     /// The scope has another root now.
     virtual void rootChanged() {}
 

@@ -1,5 +1,6 @@
 // The predicates that look at one element: its names, attributes, place and text.
 #include "attr_value.h"
+#include "class_index.h"
 #include "class_match.h"
 #include "columns.h"
 #include "orl/html/evaluator.h"
@@ -26,39 +27,57 @@ constexpr Traits costly{.cheap = false};
 
 namespace {
 
-/// A predicate that looks at nothing but the tag, or nothing but the "class" attribute, so that a column of
-/// it can answer.
+/// Looks at nothing but the tag, so that a column of the tags can answer.
 template<class Test>
-class ColumnPredicate final : public Predicate {
+class TagPredicate final : public Predicate {
 public:
-    using Numbers = std::vector<std::uint32_t> Columns::*;
-    using Examples = std::vector<const NodeRec *> Columns::*;
-
-    ColumnPredicate(Numbers numbers, Examples examples, Test test)
-        : Predicate({}), numbers_(numbers), examples_(examples), test_(std::move(test)) {}
+    explicit TagPredicate(Test test) : Predicate({}), test_(std::move(test)) {}
 
     bool holds(NodeRec *element) override { return test_(element); }
-    Found findIn(NodeRec *top) override {
-        return findInColumn(top, numbers_, examples_,
-                            [this](const NodeRec *element) { return test_(element); });
-    }
+    Walk walk() const override { return Walk::Column; }
+    Found findIn(NodeRec *top) override { return findByColumn(top, tagColumn, &Columns::tags, test_); }
 
 private:
-    Numbers numbers_;
-    Examples examples_;
     Test test_;
 };
 
 template<class Test>
 PredicatePtr makeTagTest(Test test) {
-    return std::make_unique<ColumnPredicate<Test>>(&Columns::tags, &Columns::tagExamples, std::move(test));
+    return std::make_unique<TagPredicate<Test>>(std::move(test));
 }
 
-template<class Test>
-PredicatePtr makeClassTest(Test test) {
-    return std::make_unique<ColumnPredicate<Test>>(&Columns::classes, &Columns::classExamples,
-                                                   std::move(test));
-}
+/// Looks at nothing but the "class" attribute.
+class ClassPredicate final : public Predicate {
+public:
+    explicit ClassPredicate(const std::string &name) : Predicate({}), name_(name) {}
+
+    bool holds(NodeRec *element) override { return name_.isIn(element); }
+    Walk walk() const override { return Walk::Index; }
+    Found findIn(NodeRec *top) override {
+        const auto matches = [this](const NodeRec *element) { return name_.isIn(element); };
+        const ClassIndex *index = ClassIndex::of(top);
+        if (!index) return findByColumn(top, classColumn, &Columns::classes, matches);
+        if (const Column *column = index->isLong() ? classColumn(*index) : nullptr) {
+            const auto place = [column](Ref ref) {
+                return std::size_t(std::ranges::lower_bound(column->elements, ref) -
+                                   column->elements.begin());
+            };
+            const bool all = top == index->page();
+            const std::size_t first = all ? 0 : place(refOf(top));
+            const std::size_t last = all ? column->elements.size() : place(ClassIndex::endOf(top));
+            // Below a small part of the page there are fewer elements than numbers to decide about.
+            if (last - first >= column->examples.size()) return findInColumn(*column, first, last, matches);
+        }
+        Found found;
+        index->forEachIn(top, [&](ClassIndex::Entry entry) {
+            if (name_.isIn(at<AttrRec>(entry.attr)->text())) found.push_back(at<NodeRec>(entry.element));
+        });
+        return found;
+    }
+
+private:
+    ClassName name_;
+};
 
 } // namespace
 
@@ -72,8 +91,7 @@ PredicatePtr Evaluator::TagEndsWith::compile(Scope &) const {
 }
 
 PredicatePtr Evaluator::Class::compile(Scope &) const {
-    return makeClassTest(
-        [name = ClassName(className_)](const NodeRec *element) { return name.isIn(element); });
+    return std::make_unique<ClassPredicate>(className_);
 }
 
 PredicatePtr Evaluator::Id::compile(Scope &) const {
@@ -115,8 +133,7 @@ PredicatePtr Evaluator::AttributeWithValue::compile(Scope &) const {
 
 PredicatePtr Evaluator::AttributeWithValueNot::compile(Scope &) const {
     return makeLeaf([reader = AttrReader(key()), this](NodeRec *element) {
-        if (!reader.isOn(element)) return !value().empty();
-        return !reader.holds(element, [this](std::string_view text) { return equalsLower(text, value()); });
+        return reader.reads(element, [this](std::string_view text) { return !equalsLower(text, value()); });
     });
 }
 

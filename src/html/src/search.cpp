@@ -32,11 +32,11 @@ namespace core {
 
 Elements asElements(const Found &found) {
     std::vector<Element> all;
+    if (found.empty()) return all;
     all.reserve(found.size());
-    for (NodeRec *node : found) {
-        hold(node);
+    holdAll(found.data(), found.size());
+    for (NodeRec *node : found)
         all.emplace_back(node, Node::Held());
-    }
     return all;
 }
 

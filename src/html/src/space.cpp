@@ -70,7 +70,7 @@ private:
     std::size_t committed_ = 0;
     std::size_t hot_ = 0;
     Runs free_;
-    std::set<std::pair<std::size_t, std::size_t>> bySize_; ///< (count, first)
+    std::set<std::pair<std::size_t, std::size_t>> bySize_[2]; ///< cold and hot ones: (count, first)
     SlotGranule *slotGranules_ = nullptr;
 };
 
@@ -104,19 +104,20 @@ void Space::commit(std::size_t end) {
 
 void Space::insert(std::size_t first, Run run) {
     free_.emplace(first, run);
-    bySize_.emplace(run.count, first);
+    bySize_[run.hot].emplace(run.count, first);
     if (run.hot) hot_ += run.count * granuleSize;
 }
 
 void Space::erase(Runs::iterator run) {
-    bySize_.erase({run->second.count, run->first});
+    bySize_[run->second.hot].erase({run->second.count, run->first});
     if (run->second.hot) hot_ -= run->second.count * granuleSize;
     free_.erase(run);
 }
 
 std::size_t Space::takeRun(std::size_t count) {
-    const auto fit = bySize_.lower_bound({count, 0});
-    if (fit == bySize_.end()) {
+    const bool hot = bySize_[true].lower_bound({count, 0}) != bySize_[true].end();
+    const auto fit = bySize_[hot].lower_bound({count, 0});
+    if (fit == bySize_[hot].end()) {
         if (count > granules_ - top_) throw std::bad_alloc();
         commit(top_ + count);
         const std::size_t first = top_;
@@ -131,24 +132,23 @@ std::size_t Space::takeRun(std::size_t count) {
     return first;
 }
 
+/// Hot runs and cold ones do not merge: what the next page is to find ready must not go with a neighbour that
+/// is too large for the stock.
 void Space::giveRun(std::size_t first, std::size_t count) {
-    Run run{count, true};
+    Run run{count, hot_ + count * granuleSize <= hotStock};
+    if (!run.hot) madvise(granuleAddress(first), count * granuleSize, MADV_DONTNEED);
     auto after = free_.lower_bound(first);
-    if (after != free_.end() && after->first == first + count) {
+    if (after != free_.end() && after->first == first + count && after->second.hot == run.hot) {
         run.count += after->second.count;
         erase(after++);
     }
     if (after != free_.begin()) {
         const auto before = std::prev(after);
-        if (before->first + before->second.count == first) {
+        if (before->first + before->second.count == first && before->second.hot == run.hot) {
             first = before->first;
             run.count += before->second.count;
             erase(before);
         }
-    }
-    if (hot_ + run.count * granuleSize > hotStock) {
-        madvise(granuleAddress(first), run.count * granuleSize, MADV_DONTNEED);
-        run.hot = false;
     }
     insert(first, run);
 }

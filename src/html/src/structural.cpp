@@ -1,4 +1,6 @@
 // The predicates that ask others: about the same element, those above it, beside it and below it.
+#include "class_index.h"
+#include "columns.h"
 #include "node_marks.h"
 #include "orl/html/evaluator.h"
 #include "orl/html/exception.h"
@@ -7,6 +9,7 @@
 #include "tree.h"
 
 #include <algorithm>
+#include <limits>
 #include <unordered_map>
 #include <vector>
 
@@ -53,22 +56,29 @@ private:
 };
 
 /// Keeps for each element whether it or one above it matches, so that no element is asked twice on the way
-/// up.
+/// up. Where addresses grow in document order, what stands between the last match and the end of it needs no
+/// look at all.
 class AncestorPredicate final : public Predicate {
 public:
     AncestorPredicate(PredicatePtr inner, Scope &scope)
         : Predicate({.growing = inner->traits.growing}), inner_(std::move(inner)), scope_(scope) {}
 
     bool holds(NodeRec *element) override {
+        const Ref ref = refOf(element);
+        if (ref > match_ && ref < matchEnd_) return true;
         NodeRec *const nearest = next(element);
         if (!nearest) return false;
-        // Most often the parent decides.
+        // Most often the parent decides, or one of the next few above it.
         const bool cheap = inner_->traits.cheap;
-        if (cheap && inner_->holds(nearest)) return true;
+        if (cheap && inner_->holds(nearest)) return remember(nearest);
         if (answers_.isKnown(nearest)) return answers_.get(nearest);
         NodeRec *above = cheap ? next(nearest) : nearest;
-        while (above && !answers_.isKnown(above) && !inner_->holds(above))
-            above = next(above);
+        int steps = 0;
+        for (; above && !answers_.isKnown(above); above = next(above), ++steps) {
+            if (!inner_->holds(above)) continue;
+            if (remember(above) && cheap && steps < few) return true;
+            break;
+        }
         const bool answer = above && (!answers_.isKnown(above) || answers_.get(above));
         for (NodeRec *passed = nearest; passed; passed = next(passed)) {
             if (answers_.isKnown(passed)) break;
@@ -77,17 +87,64 @@ public:
         }
         return answer;
     }
+    /// Many elements, and an inner predicate that finds its own fast: what stands inside one of those stays.
+    void filter(Found &elements) override {
+        if (elements.size() < many || inner_->walk() != Walk::Index || !isOrdered() ||
+            putClassColumnOff(*ClassIndex::of(scope_.root)))
+            return Predicate::filter(elements);
+        const Found outer = inner_->findIn(scope_.root);
+        auto next = outer.begin();
+        Ref end = 0; // of the last of them that is in no other
+        std::erase_if(elements, [&](const NodeRec *element) {
+            for (; next != outer.end() && refOf(*next) < refOf(element); ++next)
+                if (refOf(*next) >= end) end = ClassIndex::endOf(*next);
+            return refOf(element) >= end;
+        });
+    }
     void rootChanged() override {
         inner_->rootChanged();
         answers_.clear();
+        match_ = matchEnd_ = 0;
+        order_ = Order::Unasked;
     }
 
 private:
+    enum class Order { Unasked, None, OfAddresses };
+    static constexpr std::size_t many = 64;
+    static constexpr int few = 8; ///< steps that cost less than keeping what they tell
+
     NodeRec *next(NodeRec *element) const { return element == scope_.root ? nullptr : parentOf(element); }
+
+    bool isOrdered() {
+        if (order_ == Order::Unasked) {
+            const ClassIndex *index = ClassIndex::of(scope_.root);
+            order_ = index && index->isOrdered() ? Order::OfAddresses : Order::None;
+        }
+        return order_ == Order::OfAddresses;
+    }
+
+    /// Keeps the match and where it ends, if that is near.
+    bool remember(const NodeRec *match) {
+        if (!isOrdered()) return true;
+        match_ = matchEnd_ = 0;
+        const NodeRec *node = match;
+        for (int steps = 0; steps < few && !node->next; ++steps) {
+            if (!node->parent) {
+                matchEnd_ = std::numeric_limits<Ref>::max();
+                break;
+            }
+            node = parent(node);
+        }
+        if (node->next) matchEnd_ = node->next;
+        match_ = matchEnd_ ? refOf(match) : 0;
+        return true;
+    }
 
     PredicatePtr inner_;
     Scope &scope_;
     NodeAnswers answers_;
+    Ref match_ = 0, matchEnd_ = 0; ///< an element that matches, and where what is behind it begins
+    Order order_ = Order::Unasked;
 };
 
 /// Keeps for each parent which of its child elements is the first that matches.

@@ -16,7 +16,9 @@ Document TreeBuilder::parse(std::string_view input, std::string_view baseUri, Pa
     const Parse parse(*this);
     initialiseParse(*arena, input, baseUri, errors, settings);
     Document document(doc_);
+    arena->classes.start();
     runParser();
+    arena->classes.finish(*arena, doc_);
     return document;
 }
 

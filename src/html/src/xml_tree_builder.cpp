@@ -44,6 +44,7 @@ void XmlTreeBuilder::insert(const Token::StartTag &tag) {
     NodeRec *const element =
         arena().newElement(Kind::Element, record, tag.attributes.data(), tag.attributes.size());
     append(currentElement(), element);
+    arena().classes.note(arena(), element);
     if (open) open_.push(element, name);
 }
 

@@ -16,7 +16,7 @@ class QDBusPendingCallWatcher;
 
 namespace orl {
 
-/// The desktop's notifications, by the Desktop Notifications Specification over D-Bus. Main thread; waits for
+/// The desktop's notifications, as freedesktop.org describes them for D-Bus. Main thread; waits for
 /// no answer, so that a server that hangs holds up nothing.
 ///
 /// Permission means that a server answers: the desktop itself lets the user silence a program. What an

@@ -14,8 +14,8 @@ struct HandlerFolders {
     static HandlerFolders ofTheDesktop();
 };
 
-/// Whether an installed program opens this kind of content, such as "x-scheme-handler/mailto". Reads a few
-/// small files and starts nothing. Follows the MIME Applications Specification.
+/// Whether an installed program opens this kind of content, such as "x-scheme-handler/mailto". Reads the
+/// few small files that freedesktop.org lays down for this, and starts nothing.
 bool hasHandler(const QString &mimeType, const HandlerFolders &folders);
 
 } // namespace orl

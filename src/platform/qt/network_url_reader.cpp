@@ -37,7 +37,9 @@ QNetworkRequest networkRequest(const UrlRequest &request) {
     QNetworkRequest made(request.url);
     // Whether a body is whole is checked as HTTP/1.1 tells it.
     made.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
-    made.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
+    made.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
+                      request.sameOrigin ? QNetworkRequest::SameOriginRedirectPolicy
+                                         : QNetworkRequest::NoLessSafeRedirectPolicy);
     made.setMaximumRedirectsAllowed(mostRedirects);
     if (request.ignoreCache) {
         made.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
@@ -66,19 +68,19 @@ bool isAnswer(const QNetworkReply &reply) {
     return error == QNetworkReply::NoError || byContent || byServer || byRequest;
 }
 
-Result<UrlResponse> unpacked(int status, const QByteArray &body, const QByteArray &encoding) {
+Result<UrlResponse> unpacked(int status, const QByteArray &body, const QByteArray &encoding, qint64 most) {
     if (body.isEmpty() || encoding.isEmpty() || encoding == "identity") return UrlResponse{status, body};
     if (encoding != "gzip" && encoding != "x-gzip" && encoding != "deflate") {
         return Error{
             QStringLiteral("The body is packed in an unknown way: %1").arg(QString::fromLatin1(encoding))};
     }
-    const Result<QByteArray> whole = unpack(body, UrlReader::maxBodyBytes);
+    const Result<QByteArray> whole = unpack(body, most);
     if (!whole) return whole.error();
     return UrlResponse{status, whole.value()};
 }
 
-Error tooLarge() {
-    return {QStringLiteral("The body is larger than %1 bytes.").arg(UrlReader::maxBodyBytes)};
+Error tooLarge(qint64 most) {
+    return {QStringLiteral("The body is larger than %1 bytes.").arg(most)};
 }
 
 } // namespace
@@ -110,7 +112,7 @@ public:
     void load(const UrlRequest &request, const std::shared_ptr<Job> &job) {
         if (!manager_) makeManager();
         QNetworkReply *reply = manager_->get(networkRequest(request));
-        auto transfer = std::make_shared<Transfer>(Transfer{*reply, job, {}});
+        auto transfer = std::make_shared<Transfer>(Transfer{*reply, job, mostBytes(request), {}});
         connect(reply, &QNetworkReply::metaDataChanged, reply,
                 [transfer] { checkAnnouncedLength(*transfer); });
         connect(reply, &QNetworkReply::readyRead, reply, [transfer] { takeBytes(*transfer); });
@@ -121,6 +123,7 @@ private:
     struct Transfer {
         QNetworkReply &reply;
         std::shared_ptr<Job> job;
+        qint64 mostBytes;
         QByteArray body;
     };
 
@@ -130,19 +133,19 @@ private:
     }
 
     static void giveUp(Transfer &transfer) {
-        transfer.job->end(tooLarge());
+        transfer.job->end(tooLarge(transfer.mostBytes));
         transfer.reply.abort();
     }
 
     static void checkAnnouncedLength(Transfer &transfer) {
         const QVariant length = transfer.reply.header(QNetworkRequest::ContentLengthHeader);
-        if (length.toLongLong() > maxBodyBytes) giveUp(transfer);
+        if (length.toLongLong() > transfer.mostBytes) giveUp(transfer);
     }
 
     static void takeBytes(Transfer &transfer) {
         if (!transfer.reply.isOpen()) return; // given up
         transfer.body += transfer.reply.readAll();
-        if (transfer.body.size() > maxBodyBytes) giveUp(transfer);
+        if (transfer.body.size() > transfer.mostBytes) giveUp(transfer);
     }
 
     static void finish(Transfer &transfer) {
@@ -159,7 +162,8 @@ private:
         }
         if (!isAnswer(reply)) return Error{reply.errorString()};
         const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-        return unpacked(status, transfer.body, reply.rawHeader("Content-Encoding").trimmed().toLower());
+        return unpacked(status, transfer.body, reply.rawHeader("Content-Encoding").trimmed().toLower(),
+                        transfer.mostBytes);
     }
 
     QNetworkAccessManager *manager_ = nullptr;

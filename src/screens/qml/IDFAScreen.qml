@@ -17,6 +17,7 @@ FocusScope {
     Flickable {
         anchors.top: parent.top
         anchors.bottom: foot.top
+        anchors.bottomMargin: Theme.space3
         anchors.horizontalCenter: parent.horizontalCenter
         width: Math.min(parent.width, Theme.phoneWidth)
         contentHeight: Math.max(column.implicitHeight + 2 * Theme.space6, height)

@@ -39,7 +39,7 @@ Pressable {
             anchors.bottom: parent.bottom
             anchors.right: parent.right
             anchors.left: parent.left
-            anchors.leftMargin: Theme.space3 + Theme.chip + Theme.space3
+            anchors.leftMargin: Theme.space3 + (Theme.large ? 0 : Theme.chip + Theme.space3)
             height: Theme.hairline
             color: Theme.separator
             visible: !root.last
@@ -48,6 +48,7 @@ Pressable {
     contentItem: RowLayout {
         spacing: Theme.space3
         Rectangle {
+            visible: !Theme.large // the words need the room
             implicitWidth: Theme.chip
             implicitHeight: Theme.chip
             radius: Theme.chipRadius

@@ -27,6 +27,8 @@ SheetFrame {
                 font.pixelSize: Theme.secondarySize
                 color: Theme.secondary
                 wrapMode: Text.WrapAtWordBoundaryOrAnywhere
+                maximumLineCount: Theme.large ? 4 : 8
+                elide: Text.ElideRight
                 Layout.fillWidth: true
                 Layout.bottomMargin: Theme.space2
             }

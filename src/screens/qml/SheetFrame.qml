@@ -18,7 +18,7 @@ T.Popup {
     padding: Theme.space5
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
 
-    Component.onCompleted: body.parent = flick.contentItem
+    Component.onCompleted: body.parent = (contentItem as Flickable).contentItem
 
     T.Overlay.modal: Rectangle { color: Theme.dim }
     enter: Transition { NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Theme.motion } }
@@ -31,7 +31,6 @@ T.Popup {
         border.width: Theme.hairline
     }
     contentItem: Flickable {
-        id: flick
         implicitHeight: contentHeight
         contentWidth: width
         contentHeight: root.body ? root.body.implicitHeight : 0

@@ -9,6 +9,8 @@ Pressable {
 
     text: label
     topPadding: Theme.space2
+    leftPadding: Theme.space1
+    rightPadding: Theme.space1
     bottomPadding: Theme.space2
     Accessible.role: Accessible.PageTab
     Accessible.checked: checked

@@ -59,6 +59,7 @@ QtObject {
     readonly property int symbol: Math.round(20 * Math.min(textScale, 1.6))
     readonly property int smallSymbol: Math.round(14 * Math.min(textScale, 1.6))
     readonly property int chip: Math.round(32 * Math.min(textScale, 1.6))
+    readonly property int toggle: Math.round(30 * Math.min(textScale, 1.3))
     readonly property int drawing: 160
     readonly property int appIcon: 96
     readonly property int alertHeight: 400

@@ -6,7 +6,7 @@ Rectangle {
     required property bool on
     readonly property real inset: Theme.space1 / 2
 
-    implicitHeight: Theme.symbol * 1.5
+    implicitHeight: Theme.toggle
     implicitWidth: implicitHeight * 1.7
     radius: height / 2
     color: on ? Theme.accent : Theme.off

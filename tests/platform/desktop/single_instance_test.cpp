@@ -5,6 +5,7 @@
 #include <QSignalSpy>
 #include <QThread>
 
+#include <atomic>
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -17,13 +18,15 @@ using Start = SingleInstance::Start;
 Start startAnother(const QString &dataFolder, const std::function<QDBusConnection()> &bus,
                    const QString &runtime, const QString &token) {
     Start outcome{};
+    std::atomic<bool> done = false;
     const std::unique_ptr<QThread> other(QThread::create([&] {
         SingleInstance instance(dataFolder, bus(), runtime);
         outcome = instance.start(token);
+        done = true; // hands over what the thread wrote
     }));
     QObject::connect(other.get(), &QThread::finished, qApp, [] {}); // wakes whoever waits
     other->start();
-    EXPECT_TRUE(waitUntil([&] { return other->isFinished(); }));
+    EXPECT_TRUE(waitUntil([&] { return done.load() && other->isFinished(); }));
     return outcome;
 }
 

@@ -129,6 +129,31 @@ TEST_F(NetworkUrlReaderTest, FollowsRedirectsWithinTheWebOnly) {
     }
 }
 
+TEST_F(NetworkUrlReaderTest, ARequestMayBeKeptToItsOriginAndToFewerBytes) {
+    LoopbackServer elsewhere;
+    elsewhere.page(path, "elsewhere");
+    server.page(QStringLiteral("/end"), "end");
+    const auto redirect = [&](const QByteArray &to) {
+        server.answer(path, "HTTP/1.1 302 Found\r\nLocation: " + to + "\r\nContent-Length: 0\r\n\r\n");
+        UrlRequest request{.url = server.url(path)};
+        request.sameOrigin = true;
+        return reader.read(request);
+    };
+    EXPECT_EQ(redirect("/end").value().body, QByteArray("end"));
+    EXPECT_FALSE(redirect(elsewhere.url(path).toEncoded()).ok());
+    EXPECT_TRUE(elsewhere.requests(0).empty());
+
+    UrlRequest few{.url = server.url(QStringLiteral("/end"))};
+    few.mostBytes = 3;
+    EXPECT_TRUE(reader.read(few).ok());
+    few.mostBytes = 2;
+    EXPECT_TRUE(reader.read(few).error().description.contains(QStringLiteral("larger than 2 bytes")));
+    server.page(QStringLiteral("/end"), qCompress(QByteArray(mebibyte, 'x'), 9).mid(4),
+                "Content-Encoding: deflate\r\n");
+    few.mostBytes = 64 * 1024;
+    EXPECT_TRUE(reader.read(few).error().description.contains(QStringLiteral("larger than")));
+}
+
 TEST_F(NetworkUrlReaderTest, ReadsNothingButTheWeb) {
     for (const char *url : {"file:///etc/hostname", "data:text/plain,x", "qrc:/x", "", "page"}) {
         EXPECT_FALSE(reader.read({.url = QUrl(QString::fromLatin1(url))}).ok()) << url;

@@ -51,7 +51,9 @@ public:
         /// For a name of two scalars, the first of them.
         std::optional<char32_t> codepointForName(std::string_view name) const;
 
-        /// The last of the names of this scalar, so that "amp" is preferred to "AMP"; "" without any.
+        /// The last of the names of this scalar, so that "amp" is preferred to "AMP"; "" without any. A name
+        /// of two scalars counts as one of its first: with the `extended` names and an encoding that lacks
+        /// it, U+228A is printed as "&vsubne;", which reads as U+228A and U+FE00.
         std::string_view nameForCodepoint(char32_t scalar) const;
 
     private:

@@ -1,7 +1,8 @@
 // The pages that the benchmarks read.
 //
 // The documentation of Python as it stands on this machine (the package python3-doc; ORL_BENCH_PAGES names
-// another folder), a page of messages, a page that is nearly all text and one that is nearly all attributes.
+// another folder), pages of messages, a page that is nearly all text, one that is nearly all attributes, and
+// tag soup.
 #pragma once
 
 #include <cstddef>
@@ -10,6 +11,7 @@
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace orl::bench {
@@ -74,23 +76,50 @@ inline std::string attributes(std::size_t bytes) {
     return page;
 }
 
-inline const Pages &pagesOf(int set) {
-    static const Pages sets[] = {documentation(),
-                                 {messages(100'000)},
-                                 {messages(1'000'000)},
-                                 {prose(1'000'000)},
-                                 {attributes(1'000'000)}};
-    return sets[set];
+/// Wrongly nested formatting, rows and cells without tables, cells without rows, text between cells, end tags
+/// of nothing.
+inline std::string soup(std::size_t bytes) {
+    std::string page = "<title>Soup</title>";
+    for (int i = 0; page.size() < bytes; ++i)
+        page += "<div class='row x" + std::to_string(i % 7) +
+                "'><p><b>one<i>two</b>three</i><table>lost<td>cell<a href=x>link<td>other<tr><b>bold</table>"
+                "</span><ul><li>item<p>para<li class=large>&amp&copy;text&nosuch;</ul></p><br/></br><font "
+                "color=red>red<p>still</font>no more</td><h1>one<h2>two</h1><!-- a > b --!><select><option>a"
+                "<option selected>b<td></select><nobr>x<nobr>y</nobr></div></div>\n";
+    return page;
 }
 
-inline constexpr const char *setNames[] = {"documentation", "messages_100K", "messages_1M", "prose_1M",
-                                           "attributes_1M"};
-
-inline std::size_t bytesOf(const Pages &pages) {
+/// A set of pages that all parsers read, and what is looked for in it.
+struct Input {
+    const char *name;
+    Pages pages;
+    const char *className; ///< on part of the elements
+    const char *tagName;
     std::size_t bytes = 0;
-    for (const auto &page : pages)
-        bytes += page.size();
-    return bytes;
+    bool isDeepForLibxml2 = false; ///< it stops at 256 levels, of which it makes more than others here
+
+    Input(const char *name_, Pages pages_, const char *className_, const char *tagName_)
+        : name(name_), pages(std::move(pages_)), className(className_), tagName(tagName_) {
+        for (const auto &page : pages)
+            bytes += page.size();
+    }
+};
+
+inline const std::vector<Input> &inputs() {
+    static const std::vector<Input> all = [] {
+        std::vector<Input> made;
+        made.emplace_back("documentation", documentation(), "reference", "a");
+        made.emplace_back("messages 30 KB", Pages{messages(30'000)}, "mobile_hide", "b");
+        made.emplace_back("messages 100 KB", Pages{messages(100'000)}, "mobile_hide", "b");
+        made.emplace_back("messages 1 MB", Pages{messages(1'000'000)}, "mobile_hide", "b");
+        made.emplace_back("text 1 MB", Pages{prose(1'000'000)}, "none", "p");
+        made.emplace_back("attributes 1 MB", Pages{attributes(1'000'000)}, "large", "img");
+        made.emplace_back("tag soup 1 MB", Pages{soup(1'000'000)}, "large", "td");
+        made.back().isDeepForLibxml2 = true;
+        std::erase_if(made, [](const Input &input) { return input.pages.empty(); });
+        return made;
+    }();
+    return all;
 }
 
 } // namespace orl::bench
