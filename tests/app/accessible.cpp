@@ -12,6 +12,7 @@ namespace orl {
 namespace {
 
 const QString accessibleInterface = QStringLiteral("org.a11y.atspi.Accessible");
+constexpr unsigned checkedState = 4;
 constexpr unsigned showingState = 25;
 
 /// The (bus name, path) pairs in which AT-SPI names objects.
@@ -64,12 +65,24 @@ QString Accessible::role() const {
     return answer.isEmpty() ? QString() : answer.first().toString();
 }
 
+QString Accessible::description() const {
+    return property(accessibleInterface, QStringLiteral("Description")).toString();
+}
+
 bool Accessible::isShowing() const {
+    return hasState(showingState);
+}
+
+bool Accessible::isChecked() const {
+    return hasState(checkedState);
+}
+
+bool Accessible::hasState(unsigned state) const {
     const QVariantList answer = call(accessibleInterface, QStringLiteral("GetState"));
     if (answer.isEmpty()) return false;
     QList<uint> words;
     answer.first().value<QDBusArgument>() >> words;
-    return !words.isEmpty() && (words.first() >> showingState & 1U);
+    return !words.isEmpty() && (words.first() >> state & 1U);
 }
 
 QList<Accessible> Accessible::children() const {

@@ -19,8 +19,10 @@ public:
     static std::optional<Accessible> program(const QDBusConnection &bus, const QString &name);
 
     QString name() const;
+    QString description() const;
     QString role() const; ///< such as "push button"
     bool isShowing() const;
+    bool isChecked() const;
     QList<Accessible> children() const;
 
     /// All that is shown below this one and fits, in the order of the tree.
@@ -32,6 +34,7 @@ public:
     QPoint centre() const;
 
 private:
+    bool hasState(unsigned state) const;
     QVariant property(const QString &interface, const QString &name) const;
     QVariantList call(const QString &interface, const QString &method,
                       const QVariantList &arguments = {}) const;

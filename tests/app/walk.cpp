@@ -12,6 +12,7 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QPixmap>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QTest>
 
@@ -132,13 +133,85 @@ protected:
 
     /// The station in light and dark, large and small.
     void lookAround(const QString &station) {
-        lookWhen(false, station + QStringLiteral("-light"));
-        desk.portal().setDark(true);
+        lookWhen(false, station + QStringLiteral("-390x844-light"));
         resize(360, 640);
-        lookWhen(true, station + QStringLiteral("-dark-small"));
-        desk.portal().setDark(false);
+        look(station + QStringLiteral("-360x640-light"));
+        desk.portal().setDark(true);
+        lookWhen(true, station + QStringLiteral("-360x640-dark"));
         resize(390, 844);
+        look(station + QStringLiteral("-390x844-dark"));
+        desk.portal().setDark(false);
+        lookWhen(false, station + QStringLiteral("-390x844-light"));
     }
+
+    bool gone(const Fits &fits) {
+        return QTest::qWaitFor([&] { return all(fits).isEmpty(); }, 20000);
+    }
+
+    /// A finger that is put down in the middle of the left side and moved to the right by so many points.
+    void drag(int distance) {
+        QStringList moves{QStringLiteral("mousemove"), QStringLiteral("40"), QStringLiteral("420"),
+                          QStringLiteral("mousedown"), QStringLiteral("1")};
+        for (int step = 1; step <= 8; ++step) {
+            moves += {QStringLiteral("mousemove"), QString::number(40 + distance * step / 8),
+                      QStringLiteral("420"), QStringLiteral("sleep"), QStringLiteral("0.03")};
+        }
+        desk.run(QStringLiteral("xdotool"), moves);
+    }
+    void drop() { desk.run(QStringLiteral("xdotool"), {QStringLiteral("mouseup"), QStringLiteral("1")}); }
+
+    QString clipboard() { return desk.run(ownPath, {QStringLiteral("--clipboard")}); }
+
+    /// How many messages of a sender are unread.
+    static int badge(const Accessible &row) {
+        return row.description().section(QStringLiteral(" unread"), 0, 0).toInt();
+    }
+
+    static QString digitsOf(QString text) {
+        text.removeIf([](QChar c) { return !c.isDigit(); });
+        return text;
+    }
+
+    static bool isButton(const Accessible &control) {
+        return control.role() == QStringLiteral("push button");
+    }
+    /// A tab or a layout. The toolkit takes them for buttons.
+    static Fits tab(const QString &label) {
+        return [label](const Accessible &control) { return isButton(control) && control.name() == label; };
+    }
+    static Fits number(const QString &prefix) {
+        return [prefix](const Accessible &control) {
+            return isButton(control) && control.name().startsWith(prefix);
+        };
+    }
+    /// A sender's name is "sender, time: last message"; this one's holds a code.
+    static Fits sender() {
+        return [](const Accessible &control) {
+            static const QRegularExpression code(QStringLiteral(", \\d\\d:\\d\\d: .*\\d{4}"));
+            return isButton(control) && code.match(control.name()).hasMatch();
+        };
+    }
+    /// Something that copies itself.
+    static Fits code() {
+        return [](const Accessible &control) {
+            static const QRegularExpression chip(QStringLiteral("^Copy \\+?\\d+$"));
+            return isButton(control) && chip.match(control.name()).hasMatch();
+        };
+    }
+
+public:
+    // The stations, in this order.
+    void firstRun();
+    void messages();
+    void conversation();
+    void tapOtherNumber();
+    void changeOfNumber();
+    void settings();
+    void restart();
+
+protected:
+    QString chosen; ///< the number as its card shows it
+    Fits card() const { return beginning(QStringLiteral("Copy number ") + chosen); }
 
     QStringList contents() {
         QStringList list;
@@ -152,33 +225,31 @@ protected:
     std::unique_ptr<QProcess> program;
 };
 
-TEST_F(Walk, FromTheFirstStartToAMessageAndBackAfterAKill) {
+void Walk::firstRun() {
     startProgram();
     const std::optional<Accessible> search = wait(named(QStringLiteral("Phone Code or Country...")));
     ASSERT_TRUE(search);
     ASSERT_TRUE(wait(named(QStringLiteral("United States")))) << "the countries never came";
-    lookAround(QStringLiteral("1-countries"));
+    ASSERT_TRUE(gone(named(QStringLiteral("Virtual Phone Numbers")))) << "the splash stays";
+    lookAround(QStringLiteral("01-countries"));
 
     type(*search, QStringLiteral("germ"));
-    ASSERT_TRUE(
-        QTest::qWaitFor([this] { return all(named(QStringLiteral("United States"))).isEmpty(); }, 20000))
+    ASSERT_TRUE(gone(named(QStringLiteral("United States"))))
         << "the search left a country that does not match";
-    look(QStringLiteral("2-search"));
-    press(named(QStringLiteral("Germany")), "the country");
+    lookAround(QStringLiteral("02-search"));
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Germany")), "the country"));
 
-    const std::optional<Accessible> number = wait([](const Accessible &control) {
-        return control.role() == QStringLiteral("push button") &&
-               control.name().startsWith(QStringLiteral("+49"));
-    });
-    ASSERT_TRUE(number) << "the numbers never came";
-    const QString chosen = number->name();
-    lookAround(QStringLiteral("3-numbers"));
-    ASSERT_TRUE(number->press());
+    const std::optional<Accessible> first = wait(number(QStringLiteral("+49")));
+    ASSERT_TRUE(first) << "the numbers never came";
+    chosen = first->name();
+    lookAround(QStringLiteral("03-numbers"));
+    ASSERT_TRUE(first->press());
+}
 
-    const Fits card = beginning(QStringLiteral("Copy number ") + chosen);
-    ASSERT_TRUE(wait(card)) << "the home screen does not show the number";
+void Walk::messages() {
+    ASSERT_TRUE(wait(card())) << "the home screen does not show the number";
     ASSERT_TRUE(wait(message())) << "no message came";
-    lookAround(QStringLiteral("4-messages"));
+    lookAround(QStringLiteral("04-messages"));
 
     const QStringList first = contents();
     ASSERT_FALSE(first.isEmpty());
@@ -189,27 +260,123 @@ TEST_F(Walk, FromTheFirstStartToAMessageAndBackAfterAKill) {
         },
         60000))
         << "no new message arrived without a restart";
-    look(QStringLiteral("5-new-message"));
+    look(QStringLiteral("05-new-message"));
 
-    press(card, "the number card");
+    ASSERT_NO_FATAL_FAILURE(press(card(), "the number card"));
     EXPECT_TRUE(wait(named(QStringLiteral("Copied to clipboard!"))));
-    look(QStringLiteral("6-copied"));
-    QString digits = desk.run(ownPath, {QStringLiteral("--clipboard")});
-    digits.removeIf([](QChar c) { return !c.isDigit(); });
-    QString wanted = chosen;
-    wanted.removeIf([](QChar c) { return !c.isDigit(); });
-    EXPECT_EQ(digits.toStdString(), wanted.toStdString());
+    look(QStringLiteral("06-copied"));
+    EXPECT_EQ(digitsOf(clipboard()).toStdString(), digitsOf(chosen).toStdString());
+}
 
-    press(named(QStringLiteral("Senders")), "the layout by sender");
+void Walk::conversation() {
+    ASSERT_NO_FATAL_FAILURE(press(tab(QStringLiteral("Senders")), "the layout by sender"));
+    const std::optional<Accessible> row = wait(sender());
+    ASSERT_TRUE(row) << "no sender with a code";
+    const int unread = badge(*row);
+    EXPECT_GT(unread, 0) << "no badge";
+    const QString name = row->name().section(QStringLiteral(", "), 0, 0);
+    lookAround(QStringLiteral("07-senders"));
+
+    ASSERT_TRUE(row->press());
+    ASSERT_TRUE(wait(named(QStringLiteral("Online")))) << "no conversation";
+    QTest::qWait(4000); // both scroll moments pass
+    lookAround(QStringLiteral("08-conversation"));
+    const std::optional<Accessible> chip = wait(code());
+    ASSERT_TRUE(chip) << "no code in the conversation";
+    ASSERT_TRUE(chip->press());
+    look(QStringLiteral("09-copied-code"));
+    EXPECT_EQ(clipboard().toStdString(), chip->name().mid(5).toStdString());
+    EXPECT_TRUE(gone(named(QStringLiteral("Copied to clipboard!"))));
+
+    drag(150); // less than 390 / 2.5
+    look(QStringLiteral("10-swiped-half"));
+    drop();
     QTest::qWait(1000);
-    look(QStringLiteral("7-senders"));
+    EXPECT_FALSE(all(named(QStringLiteral("Online"))).isEmpty()) << "half a swipe closed it";
+    drag(240);
+    drop();
+    ASSERT_TRUE(gone(named(QStringLiteral("Online")))) << "a whole swipe left it open";
 
+    const std::optional<Accessible> seen = wait([&](const Accessible &control) {
+        return isButton(control) && control.name().startsWith(name + u',');
+    });
+    ASSERT_TRUE(seen);
+    EXPECT_LT(badge(*seen), unread) << "the badge stayed"; // new ones may have come meanwhile
+    lookAround(QStringLiteral("11-seen"));
+}
+
+/// The first number of the United States that is not the present one is tapped.
+void Walk::tapOtherNumber() {
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Change number")), "the change of the number"));
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("United States")), "the other country"));
+    const QString present = chosen;
+    const std::optional<Accessible> other = wait([&](const Accessible &control) {
+        return number(QStringLiteral("+1"))(control) && control.name() != present;
+    });
+    ASSERT_TRUE(other) << "the numbers never came";
+    chosen = other->name();
+    ASSERT_TRUE(other->press());
+}
+
+void Walk::changeOfNumber() {
+    ASSERT_NO_FATAL_FAILURE(tapOtherNumber());
+    ASSERT_TRUE(wait(named(QStringLiteral("Choose this Number"))));
+    lookAround(QStringLiteral("12-confirmation"));
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Choose this Number")), "the confirmation"));
+    ASSERT_TRUE(wait(card())) << "the number did not change";
+    lookAround(QStringLiteral("13-changed"));
+
+    ASSERT_NO_FATAL_FAILURE(tapOtherNumber());
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Choose this Number")), "the second confirmation"));
+    ASSERT_TRUE(wait(card())) << "the number did not change again";
+
+    const Fits review = named(QStringLiteral("Enjoying Orl?")); // the home screen appeared for the third time
+    ASSERT_TRUE(wait(review));
+    lookAround(QStringLiteral("14-review"));
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Not now")), "the way out of the review"));
+    ASSERT_TRUE(gone(review));
+}
+
+void Walk::settings() {
+    ASSERT_NO_FATAL_FAILURE(press(tab(QStringLiteral("Settings")), "the settings"));
+    const Fits sound = named(QStringLiteral("New message notification"));
+    ASSERT_TRUE(wait(sound));
+    lookAround(QStringLiteral("15-settings"));
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("History")), "the history"));
+    ASSERT_TRUE(wait(number(QStringLiteral("+49")))) << "the first number is not in the history";
+    lookAround(QStringLiteral("16-history"));
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Back")), "the way back from the history"));
+
+    const std::optional<Accessible> before = wait(sound);
+    ASSERT_TRUE(before);
+    EXPECT_TRUE(before->isChecked());
+    ASSERT_NO_FATAL_FAILURE(press(sound, "the switch"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !before->isChecked(); }, 10000)) << "the switch did not move";
+    look(QStringLiteral("17-switched"));
+}
+
+void Walk::restart() {
     killProgram();
     startProgram();
-    EXPECT_TRUE(wait(card)) << "the choice did not survive the kill";
+    EXPECT_TRUE(wait(card())) << "the choice did not survive the kill";
     EXPECT_TRUE(wait(message())) << "no message after the restart";
-    look(QStringLiteral("8-restarted"));
+    EXPECT_TRUE(gone(named(QStringLiteral("Virtual Phone Numbers"))));
+    lookAround(QStringLiteral("18-restarted"));
+    ASSERT_NO_FATAL_FAILURE(press(tab(QStringLiteral("Settings")), "the settings"));
+    const std::optional<Accessible> sound = wait(named(QStringLiteral("New message notification")));
+    ASSERT_TRUE(sound);
+    EXPECT_FALSE(sound->isChecked()) << "the switch did not survive the kill";
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("History")), "the history"));
+    EXPECT_TRUE(wait(number(chosen))) << "the last choice is not in the history after the kill";
     killProgram();
+}
+
+TEST_F(Walk, FromTheFirstStartThroughAllStationsAndBackAfterAKill) {
+    for (const auto station : {&Walk::firstRun, &Walk::messages, &Walk::conversation, &Walk::changeOfNumber,
+                               &Walk::settings, &Walk::restart}) {
+        (this->*station)();
+        if (HasFatalFailure()) return;
+    }
 }
 
 int lookAtDisplay(int argc, char **argv, const QString &file) {
