@@ -137,7 +137,7 @@ TEST_F(BannerTest, ChancePutsTheBlackBannerOnACard) {
         BlackBannerConfig config;
         int draw;
         bool shown;
-        QList<int> bounds;
+        std::vector<int> bounds;
     };
     const Case cases[] = {
         {"off", {.isActive = false, .onNumberCard = true, .randomDisplay = {true}}, 0, false, {}},
@@ -189,7 +189,7 @@ TEST_F(BannerTest, EachCardDrawsForItselfOnce) {
     const BlackBanner next(*process, *appVM);
     EXPECT_EQ(next.banner(), nullptr);
     arrive({}, config);
-    EXPECT_EQ(random.bounds.size(), 2);
+    EXPECT_EQ(random.bounds.size(), 2U);
 }
 
 } // namespace orl

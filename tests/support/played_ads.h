@@ -11,6 +11,7 @@
 
 #include <deque>
 #include <utility>
+#include <vector>
 
 namespace orl {
 
@@ -280,10 +281,10 @@ public:
 class PlayedRandom : public RandomSource {
 public:
     std::deque<int> draws;
-    QList<int> bounds; ///< of each draw
+    std::vector<int> bounds; ///< of each draw
 
     int below(int bound) override {
-        bounds.append(bound);
+        bounds.push_back(bound);
         if (draws.empty()) return 0;
         const int draw = draws.front();
         draws.pop_front();
