@@ -2,9 +2,10 @@
 // names of its controls. Each station leaves a picture.
 //
 //     walk PROGRAM FOLDER            walks, with PROGRAM for orl, pictures into FOLDER
-//     walk --look FILE               saves a picture of the display
+//     walk --look FILE WIDTH HEIGHT  saves a picture of the display's upper left, where the window is
 //     walk --clipboard               prints the display's clipboard
 #include "accessible.h"
+#include "demo/demo_host.h"
 #include "desk.h"
 
 #include <QClipboard>
@@ -18,8 +19,10 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <gtest/gtest.h>
 #include <tuple>
+#include <utility>
 
 namespace orl {
 namespace {
@@ -43,8 +46,8 @@ protected:
             std::fprintf(stderr, "  %s \"%s\"\n", qPrintable(control.role()), qPrintable(control.name()));
     }
 
-    void startProgram() {
-        program = desk.start(programPath, {QStringLiteral("--data"), data.path()});
+    void startProgram(const QStringList &options = {}) {
+        program = desk.start(programPath, QStringList{QStringLiteral("--data"), data.path()} + options);
         ASSERT_TRUE(QTest::qWaitFor([this] { return root().has_value(); }, 60000))
             << "it never came to the bus";
         // Nothing behind the splash can be used before it has gone; it is there ahead of the root screen.
@@ -113,15 +116,26 @@ protected:
                  {QStringLiteral("search"), QStringLiteral("--name"), QStringLiteral("^orl$"),
                   QStringLiteral("windowsize"), QStringLiteral("--sync"), QString::number(width),
                   QString::number(height)});
+        window = {width, height};
     }
 
     QImage look(const QString &station) {
         const QString file = QDir(pictureFolder).filePath(station + QStringLiteral(".png"));
         QFile::remove(file);
-        desk.run(ownPath, {QStringLiteral("--look"), file});
+        desk.run(ownPath, {QStringLiteral("--look"), file, QString::number(window.width()),
+                           QString::number(window.height())});
         QImage picture(file);
         EXPECT_FALSE(picture.isNull()) << qPrintable(station);
         return picture;
+    }
+
+    /// Looks until nothing moves, which some screens never come to.
+    void lookAtRest(const QString &station) {
+        QImage before = look(station);
+        for (int looks = 0; looks < 5; ++looks) {
+            const QImage now = look(station);
+            if (now == std::exchange(before, now)) return;
+        }
     }
 
     /// Looks until the window has followed the desktop into the dark or into the light.
@@ -129,17 +143,18 @@ protected:
         EXPECT_TRUE(
             QTest::qWaitFor([&] { return (look(station).pixelColor(1, 1).lightness() < 64) == dark; }, 20000))
             << qPrintable(station) << " did not follow the desktop's colour scheme";
+        lookAtRest(station);
     }
 
     /// The station in light and dark, large and small.
     void lookAround(const QString &station) {
         lookWhen(false, station + QStringLiteral("-390x844-light"));
         resize(360, 640);
-        look(station + QStringLiteral("-360x640-light"));
+        lookAtRest(station + QStringLiteral("-360x640-light"));
         desk.portal().setDark(true);
         lookWhen(true, station + QStringLiteral("-360x640-dark"));
         resize(390, 844);
-        look(station + QStringLiteral("-390x844-dark"));
+        lookAtRest(station + QStringLiteral("-390x844-dark"));
         desk.portal().setDark(false);
         lookWhen(false, station + QStringLiteral("-390x844-light"));
     }
@@ -159,6 +174,18 @@ protected:
         desk.run(QStringLiteral("xdotool"), moves);
     }
     void drop() { desk.run(QStringLiteral("xdotool"), {QStringLiteral("mouseup"), QStringLiteral("1")}); }
+
+    /// Turns the wheel over the middle of the window until something fits; the first of it.
+    std::optional<Accessible> scrollTo(const Fits &fits) {
+        QList<Accessible> found;
+        for (int turns = 0; turns < 40 && (found = all(fits)).isEmpty(); ++turns) {
+            desk.run(QStringLiteral("xdotool"),
+                     {QStringLiteral("mousemove"), QStringLiteral("195"), QStringLiteral("500"),
+                      QStringLiteral("click"), QStringLiteral("--repeat"), QStringLiteral("5"),
+                      QStringLiteral("5")});
+        }
+        return found.isEmpty() ? std::nullopt : std::optional(found.first());
+    }
 
     QString clipboard() { return desk.run(ownPath, {QStringLiteral("--clipboard")}); }
 
@@ -206,8 +233,11 @@ public:
     void conversation();
     void tapOtherNumber();
     void changeOfNumber();
+    void notification();
     void settings();
+    void review();
     void restart();
+    void limit();
 
 protected:
     QString chosen; ///< the number as its card shows it
@@ -223,6 +253,7 @@ protected:
     Desk desk;
     QTemporaryDir data;
     std::unique_ptr<QProcess> program;
+    QSize window{390, 844};
 };
 
 void Walk::firstRun() {
@@ -326,15 +357,33 @@ void Walk::changeOfNumber() {
     ASSERT_TRUE(wait(card())) << "the number did not change";
     lookAround(QStringLiteral("13-changed"));
 
-    ASSERT_NO_FATAL_FAILURE(tapOtherNumber());
+    // The country's last number keeps so few messages that all of them stand on one page.
+    const Fits brief = [](const Accessible &control) {
+        return isButton(control) && digitsOf(control.name()) == QStringLiteral("14155550157");
+    };
+    const std::optional<Accessible> similar = scrollTo(brief);
+    ASSERT_TRUE(similar) << "the home screen does not show the country's other numbers";
+    chosen = similar->name();
+    ASSERT_TRUE(similar->press());
     ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Choose this Number")), "the second confirmation"));
     ASSERT_TRUE(wait(card())) << "the number did not change again";
+}
 
-    const Fits review = named(QStringLiteral("Enjoying Orl?")); // the home screen appeared for the third time
-    ASSERT_TRUE(wait(review));
-    lookAround(QStringLiteral("14-review"));
-    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Not now")), "the way out of the review"));
-    ASSERT_TRUE(gone(review));
+/// Messages that were there when the number was chosen are not told of, those that come later are.
+void Walk::notification() {
+    EXPECT_TRUE(desk.notifications().empty());
+    ASSERT_NO_FATAL_FAILURE(press(tab(QStringLiteral("Recent")), "the recent layout"));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !desk.notifications().empty(); }, 90000))
+        << "no notification came";
+    const NotificationServer::Notification told = desk.notifications().front();
+    EXPECT_EQ(told.application.toStdString(), "Orl");
+    EXPECT_EQ(told.body.toStdString(), "New message...!");
+    EXPECT_TRUE(wait(beginning(told.summary + QStringLiteral(", "))))
+        << "no message of " << qPrintable(told.summary);
+    const QFileInfo sound(told.hints.value(QStringLiteral("sound-file")).toString());
+    EXPECT_EQ(sound.fileName().toStdString(), "swiftsound.caf");
+    EXPECT_GT(sound.size(), 0);
+    lookAround(QStringLiteral("14-notification"));
 }
 
 void Walk::settings() {
@@ -355,13 +404,28 @@ void Walk::settings() {
     look(QStringLiteral("17-switched"));
 }
 
+/// The home screen opens for the second and the third time.
+void Walk::review() {
+    const Fits review = named(QStringLiteral("Enjoying Orl?"));
+    ASSERT_NO_FATAL_FAILURE(press(tab(QStringLiteral("Messages")), "the messages"));
+    ASSERT_TRUE(wait(card()));
+    EXPECT_TRUE(all(review).isEmpty()) << "it asks at the second opening";
+    ASSERT_NO_FATAL_FAILURE(press(tab(QStringLiteral("Settings")), "the settings"));
+    ASSERT_TRUE(wait(named(QStringLiteral("New message notification"))));
+    ASSERT_NO_FATAL_FAILURE(press(tab(QStringLiteral("Messages")), "the messages"));
+    ASSERT_TRUE(wait(review));
+    lookAround(QStringLiteral("18-review"));
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Not now")), "the way out of the review"));
+    ASSERT_TRUE(gone(review));
+}
+
 void Walk::restart() {
     killProgram();
     startProgram();
     EXPECT_TRUE(wait(card())) << "the choice did not survive the kill";
     EXPECT_TRUE(wait(message())) << "no message after the restart";
     EXPECT_TRUE(gone(named(QStringLiteral("Virtual Phone Numbers"))));
-    lookAround(QStringLiteral("18-restarted"));
+    lookAround(QStringLiteral("19-restarted"));
     ASSERT_NO_FATAL_FAILURE(press(tab(QStringLiteral("Settings")), "the settings"));
     const std::optional<Accessible> sound = wait(named(QStringLiteral("New message notification")));
     ASSERT_TRUE(sound);
@@ -371,18 +435,49 @@ void Walk::restart() {
     killProgram();
 }
 
+/// Three numbers have been chosen by now. As soon as the host offers videos, that is the limit.
+void Walk::limit() {
+    DemoHost host;
+    demo::ConfigurationValues values;
+    values.rewardAdEnabled = true;
+    host.setConfiguration(values);
+    ASSERT_TRUE(host.start());
+    const QString endpoints = data.filePath(QStringLiteral("endpoints"));
+    QFile file(endpoints);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(endpointsFile(host.endpoints())) > 0);
+    file.close();
+    startProgram({QStringLiteral("--endpoints"), endpoints});
+    ASSERT_TRUE(wait(card()));
+
+    const Fits alert = beginning(QStringLiteral("LIMIT REACHED"));
+    ASSERT_NO_FATAL_FAILURE(tapOtherNumber());
+    ASSERT_TRUE(wait(alert)) << "the fourth choice meets no limit";
+    lookAround(QStringLiteral("20-limit"));
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Cancel")), "the way out of the alert"));
+    ASSERT_TRUE(gone(alert));
+
+    ASSERT_NO_FATAL_FAILURE(press(named(chosen), "the number once more"));
+    ASSERT_TRUE(wait(alert)) << "the limit did not last";
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Watch")), "the video"));
+    EXPECT_TRUE(gone(alert));
+    killProgram();
+}
+
 TEST_F(Walk, FromTheFirstStartThroughAllStationsAndBackAfterAKill) {
-    for (const auto station : {&Walk::firstRun, &Walk::messages, &Walk::conversation, &Walk::changeOfNumber,
-                               &Walk::settings, &Walk::restart}) {
+    for (const auto station :
+         {&Walk::firstRun, &Walk::messages, &Walk::conversation, &Walk::changeOfNumber, &Walk::notification,
+          &Walk::settings, &Walk::review, &Walk::restart, &Walk::limit}) {
         (this->*station)();
         if (HasFatalFailure()) return;
     }
 }
 
-int lookAtDisplay(int argc, char **argv, const QString &file) {
+int lookAtDisplay(int argc, char **argv, const QString &file, const QSize &size) {
     qputenv("QT_QPA_PLATFORM", "xcb");
     const QGuiApplication gui(argc, argv);
-    return QGuiApplication::primaryScreen()->grabWindow(0).save(file) ? 0 : 1;
+    const QPixmap picture =
+        QGuiApplication::primaryScreen()->grabWindow(0, 0, 0, size.width(), size.height());
+    return picture.save(file) ? 0 : 1;
 }
 
 int printClipboard(int argc, char **argv) {
@@ -397,8 +492,10 @@ int printClipboard(int argc, char **argv) {
 
 int main(int argc, char **argv) {
     const QString first = QString::fromLocal8Bit(argc > 1 ? argv[1] : "");
-    if (first == QStringLiteral("--look") && argc > 2)
-        return orl::lookAtDisplay(argc, argv, QString::fromLocal8Bit(argv[2]));
+    if (first == QStringLiteral("--look") && argc > 4) {
+        const QSize size(std::atoi(argv[3]), std::atoi(argv[4]));
+        return orl::lookAtDisplay(argc, argv, QString::fromLocal8Bit(argv[2]), size);
+    }
     if (first == QStringLiteral("--clipboard")) return orl::printClipboard(argc, argv);
     testing::InitGoogleTest(&argc, argv);
     const QCoreApplication application(argc, argv);
