@@ -1,231 +1,16 @@
-// The walk: the real program on a desktop of its own, used as somebody uses it who cannot see it, through the
-// names of its controls. Each station leaves a picture.
-//
-//     walk PROGRAM FOLDER            walks, with PROGRAM for orl, pictures into FOLDER
-//     walk --look FILE WIDTH HEIGHT  saves a picture of the display's upper left, where the window is
-//     walk --clipboard               prints the display's clipboard
-#include "accessible.h"
-#include "demo/demo_host.h"
-#include "desk.h"
+// From the first start through the stations of the number service and back after a kill.
+#include "walker.h"
 
-#include <QClipboard>
-#include <QDir>
-#include <QGuiApplication>
-#include <QImage>
-#include <QPixmap>
-#include <QRegularExpression>
-#include <QScreen>
+#include <QFileInfo>
 #include <QTest>
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
-#include <gtest/gtest.h>
-#include <tuple>
 #include <utility>
 
 namespace orl {
 namespace {
 
-QString programPath, pictureFolder, ownPath;
-
-class Walk : public testing::Test {
-protected:
-    using Fits = std::function<bool(const Accessible &)>;
-
-    void SetUp() override {
-        ASSERT_EQ(desk.problem().toStdString(), "");
-        QDir().mkpath(pictureFolder);
-    }
-
-    /// What a failed walk looked like at its end.
-    void TearDown() override {
-        if (!HasFailure() || !desk.problem().isEmpty()) return;
-        look(QStringLiteral("failed"));
-        for (const Accessible &control : all([](const Accessible &) { return true; }))
-            std::fprintf(stderr, "  %s \"%s\"\n", qPrintable(control.role()), qPrintable(control.name()));
-    }
-
-    void startProgram(const QStringList &options = {}) {
-        program = desk.start(programPath, QStringList{QStringLiteral("--data"), data.path()} + options);
-        ASSERT_TRUE(QTest::qWaitFor([this] { return root().has_value(); }, 60000))
-            << "it never came to the bus";
-        // Nothing behind the splash can be used before it has gone; it is there ahead of the root screen.
-        const Fits splash = named(QStringLiteral("Virtual Phone Numbers"));
-        const Fits rootScreen = [](const Accessible &control) {
-            return control.name() == QStringLiteral("Tabs") ||
-                   control.name() == QStringLiteral("Phone Code or Country...");
-        };
-        ASSERT_TRUE(wait(rootScreen)) << "no screen came";
-        ASSERT_TRUE(QTest::qWaitFor([&] { return all(splash).isEmpty(); }, 60000)) << "the splash stays";
-    }
-
-    /// As when the phone's battery is taken out.
-    void killProgram() {
-        program->kill();
-        ASSERT_TRUE(program->waitForFinished(10000));
-    }
-
-    std::optional<Accessible> root() {
-        return Accessible::program(desk.accessibilityBus(), QStringLiteral("orl"));
-    }
-
-    QList<Accessible> all(const Fits &fits) {
-        const std::optional<Accessible> found = root();
-        return found ? found->all(fits) : QList<Accessible>();
-    }
-
-    /// Waits until something fits; the first of it.
-    std::optional<Accessible> wait(const Fits &fits) {
-        QList<Accessible> found;
-        std::ignore = QTest::qWaitFor([&] { return !(found = all(fits)).isEmpty(); }, 60000);
-        return found.isEmpty() ? std::nullopt : std::optional(found.first());
-    }
-
-    static Fits named(const QString &name) {
-        return [name](const Accessible &control) { return control.name() == name; };
-    }
-    static Fits beginning(const QString &start) {
-        return [start](const Accessible &control) { return control.name().startsWith(start); };
-    }
-    /// A message card's name is "sender, age: content".
-    static Fits message() {
-        return [](const Accessible &control) {
-            return control.role() == QStringLiteral("list item") &&
-                   control.name().contains(QStringLiteral(": "));
-        };
-    }
-
-    void press(const Fits &fits, const char *what) {
-        const std::optional<Accessible> control = wait(fits);
-        ASSERT_TRUE(control) << "nothing to press: " << what;
-        ASSERT_TRUE(control->press()) << what;
-    }
-
-    void type(const Accessible &field, const QString &text) {
-        const QPoint at = field.centre();
-        desk.run(QStringLiteral("xdotool"),
-                 {QStringLiteral("search"), QStringLiteral("--name"), QStringLiteral("^orl$"),
-                  QStringLiteral("windowfocus"), QStringLiteral("mousemove"), QString::number(at.x()),
-                  QString::number(at.y()), QStringLiteral("click"), QStringLiteral("1"),
-                  QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("40"), text});
-    }
-
-    void resize(int width, int height) {
-        desk.run(QStringLiteral("xdotool"),
-                 {QStringLiteral("search"), QStringLiteral("--name"), QStringLiteral("^orl$"),
-                  QStringLiteral("windowsize"), QStringLiteral("--sync"), QString::number(width),
-                  QString::number(height)});
-        window = {width, height};
-    }
-
-    QImage look(const QString &station) {
-        const QString file = QDir(pictureFolder).filePath(station + QStringLiteral(".png"));
-        QFile::remove(file);
-        desk.run(ownPath, {QStringLiteral("--look"), file, QString::number(window.width()),
-                           QString::number(window.height())});
-        QImage picture(file);
-        EXPECT_FALSE(picture.isNull()) << qPrintable(station);
-        return picture;
-    }
-
-    /// Looks until nothing moves, which some screens never come to.
-    void lookAtRest(const QString &station) {
-        QImage before = look(station);
-        for (int looks = 0; looks < 5; ++looks) {
-            const QImage now = look(station);
-            if (now == std::exchange(before, now)) return;
-        }
-    }
-
-    /// Looks until the window has followed the desktop into the dark or into the light.
-    void lookWhen(bool dark, const QString &station) {
-        EXPECT_TRUE(
-            QTest::qWaitFor([&] { return (look(station).pixelColor(1, 1).lightness() < 64) == dark; }, 20000))
-            << qPrintable(station) << " did not follow the desktop's colour scheme";
-        lookAtRest(station);
-    }
-
-    /// The station in light and dark, large and small.
-    void lookAround(const QString &station) {
-        lookWhen(false, station + QStringLiteral("-390x844-light"));
-        resize(360, 640);
-        lookAtRest(station + QStringLiteral("-360x640-light"));
-        desk.portal().setDark(true);
-        lookWhen(true, station + QStringLiteral("-360x640-dark"));
-        resize(390, 844);
-        lookAtRest(station + QStringLiteral("-390x844-dark"));
-        desk.portal().setDark(false);
-        lookWhen(false, station + QStringLiteral("-390x844-light"));
-    }
-
-    bool gone(const Fits &fits) {
-        return QTest::qWaitFor([&] { return all(fits).isEmpty(); }, 20000);
-    }
-
-    /// A finger that is put down in the middle of the left side and moved to the right by so many points.
-    void drag(int distance) {
-        QStringList moves{QStringLiteral("mousemove"), QStringLiteral("40"), QStringLiteral("420"),
-                          QStringLiteral("mousedown"), QStringLiteral("1")};
-        for (int step = 1; step <= 8; ++step) {
-            moves += {QStringLiteral("mousemove"), QString::number(40 + distance * step / 8),
-                      QStringLiteral("420"), QStringLiteral("sleep"), QStringLiteral("0.03")};
-        }
-        desk.run(QStringLiteral("xdotool"), moves);
-    }
-    void drop() { desk.run(QStringLiteral("xdotool"), {QStringLiteral("mouseup"), QStringLiteral("1")}); }
-
-    /// Turns the wheel over the middle of the window until something fits; the first of it.
-    std::optional<Accessible> scrollTo(const Fits &fits) {
-        QList<Accessible> found;
-        for (int turns = 0; turns < 40 && (found = all(fits)).isEmpty(); ++turns) {
-            desk.run(QStringLiteral("xdotool"),
-                     {QStringLiteral("mousemove"), QStringLiteral("195"), QStringLiteral("500"),
-                      QStringLiteral("click"), QStringLiteral("--repeat"), QStringLiteral("5"),
-                      QStringLiteral("5")});
-        }
-        return found.isEmpty() ? std::nullopt : std::optional(found.first());
-    }
-
-    QString clipboard() { return desk.run(ownPath, {QStringLiteral("--clipboard")}); }
-
-    /// How many messages of a sender are unread.
-    static int badge(const Accessible &row) {
-        return row.description().section(QStringLiteral(" unread"), 0, 0).toInt();
-    }
-
-    static QString digitsOf(QString text) {
-        text.removeIf([](QChar c) { return !c.isDigit(); });
-        return text;
-    }
-
-    static bool isButton(const Accessible &control) {
-        return control.role() == QStringLiteral("push button");
-    }
-    /// A tab or a layout. The toolkit takes them for buttons.
-    static Fits tab(const QString &label) {
-        return [label](const Accessible &control) { return isButton(control) && control.name() == label; };
-    }
-    static Fits number(const QString &prefix) {
-        return [prefix](const Accessible &control) {
-            return isButton(control) && control.name().startsWith(prefix);
-        };
-    }
-    /// A sender's name is "sender, time: last message"; this one's holds a code.
-    static Fits sender() {
-        return [](const Accessible &control) {
-            static const QRegularExpression code(QStringLiteral(", \\d\\d:\\d\\d: .*\\d{4}"));
-            return isButton(control) && code.match(control.name()).hasMatch();
-        };
-    }
-    /// Something that copies itself.
-    static Fits code() {
-        return [](const Accessible &control) {
-            static const QRegularExpression chip(QStringLiteral("^Copy \\+?\\d+$"));
-            return isButton(control) && chip.match(control.name()).hasMatch();
-        };
-    }
-
+class Walk : public Walker {
 public:
     // The stations, in this order.
     void firstRun();
@@ -249,11 +34,6 @@ protected:
             list << card.name().section(QStringLiteral(": "), 1);
         return list;
     }
-
-    Desk desk;
-    QTemporaryDir data;
-    std::unique_ptr<QProcess> program;
-    QSize window{390, 844};
 };
 
 void Walk::firstRun() {
@@ -442,11 +222,7 @@ void Walk::limit() {
     values.rewardAdEnabled = true;
     host.setConfiguration(values);
     ASSERT_TRUE(host.start());
-    const QString endpoints = data.filePath(QStringLiteral("endpoints"));
-    QFile file(endpoints);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(endpointsFile(host.endpoints())) > 0);
-    file.close();
-    startProgram({QStringLiteral("--endpoints"), endpoints});
+    startProgramWith(host);
     ASSERT_TRUE(wait(card()));
 
     const Fits alert = beginning(QStringLiteral("LIMIT REACHED"));
@@ -472,39 +248,5 @@ TEST_F(Walk, FromTheFirstStartThroughAllStationsAndBackAfterAKill) {
     }
 }
 
-int lookAtDisplay(int argc, char **argv, const QString &file, const QSize &size) {
-    qputenv("QT_QPA_PLATFORM", "xcb");
-    const QGuiApplication gui(argc, argv);
-    const QPixmap picture =
-        QGuiApplication::primaryScreen()->grabWindow(0, 0, 0, size.width(), size.height());
-    return picture.save(file) ? 0 : 1;
-}
-
-int printClipboard(int argc, char **argv) {
-    qputenv("QT_QPA_PLATFORM", "xcb");
-    const QGuiApplication gui(argc, argv);
-    std::fputs(qPrintable(QGuiApplication::clipboard()->text()), stdout);
-    return 0;
-}
-
 } // namespace
 } // namespace orl
-
-int main(int argc, char **argv) {
-    const QString first = QString::fromLocal8Bit(argc > 1 ? argv[1] : "");
-    if (first == QStringLiteral("--look") && argc > 4) {
-        const QSize size(std::atoi(argv[3]), std::atoi(argv[4]));
-        return orl::lookAtDisplay(argc, argv, QString::fromLocal8Bit(argv[2]), size);
-    }
-    if (first == QStringLiteral("--clipboard")) return orl::printClipboard(argc, argv);
-    testing::InitGoogleTest(&argc, argv);
-    const QCoreApplication application(argc, argv);
-    if (argc < 3) {
-        std::fputs("usage: walk PROGRAM FOLDER\n", stderr);
-        return 2;
-    }
-    orl::programPath = QString::fromLocal8Bit(argv[1]);
-    orl::pictureFolder = QString::fromLocal8Bit(argv[2]);
-    orl::ownPath = QCoreApplication::applicationFilePath();
-    return RUN_ALL_TESTS();
-}
