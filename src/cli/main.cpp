@@ -26,13 +26,6 @@ int endWith(ExitCode code, const QString &notice) {
     return int(code);
 }
 
-/// The ports of the phone with the two that are watched put in between.
-Platform watched(const Platform &ports, IdleWatch &idle, ReadWatch &reads, Reachability &reachability,
-                 Console &console) {
-    return {ports.clock,  ports.mainQueue, idle,    reads,       ports.store,
-            reachability, ports.bundle,    console, ports.fatal, ports.endpoints};
-}
-
 /// Showing a number's messages makes it the current one; the application's own choice changes only where that
 /// was asked for.
 QString dataFolderFor(const CommandLine &line, const QTemporaryDir &scratch) {
@@ -53,7 +46,7 @@ int runCommand(const CommandLine &line, const Endpoints &endpoints) {
     ConsoleWatch console(ports.console);
     NoNetwork noNetwork;
     const bool offline = line.command == CommandLine::Command::History;
-    Process process(watched(ports, idle, reads, offline ? noNetwork : ports.reachability, console));
+    Process process(ports.with(idle, reads, console, offline ? noNetwork : ports.reachability));
     const Commands::Output output{
         [](const QString &result) { printLine(stdout, result); },
         [](const QString &notice) { printLine(stderr, QStringLiteral("orl-cli: ") + notice); }};

@@ -43,16 +43,10 @@ struct MailCommandTest : testing::Test {
         return exitCode;
     }
 
-    Platform watched() {
-        const Platform ports = phone.platform();
-        return {ports.clock,        ports.mainQueue, idle,          reads,       ports.store,
-                ports.reachability, ports.bundle,    ports.console, ports.fatal, ports.endpoints};
-    }
-
     PlayedPlatform phone;
     IdleWatch idle{phone.globalQueue, phone.mainQueue};
     ReadWatch reads{phone.urls};
-    Process process{watched()};
+    Process process{phone.platform().with(idle, reads)};
     QStringList results, notices;
     std::optional<ExitCode> exitCode;
     std::unique_ptr<MailCommand> command;
