@@ -1,6 +1,7 @@
 #pragma once
 
 #include "screens/home_view.h"
+#include "screens/mail/t_mail_view.h"
 #include "screens/settings_view.h"
 
 namespace orl {
@@ -13,9 +14,11 @@ class MainView : public QObject {
     Q_PROPERTY(orl::KeyedListModel *tabs READ tabs CONSTANT)
     Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY selectedIndexChanged)
     Q_PROPERTY(orl::HomeView *home READ home CONSTANT)
+    Q_PROPERTY(orl::TMailView *mail READ mail CONSTANT)
     Q_PROPERTY(orl::SettingsView *settings READ settings CONSTANT)
 public:
     MainView(Process &process, RequestViewModel &request, InternetViewModel &internet, CopyViewModel &copy,
+             MailServiceViewModel &mailService, TMailAlertViewModel &mailAlert, AppConfigViewModel &appVM,
              QObject *parent = nullptr);
 
     /// In display order. Roles "label" and "image" (a symbol).
@@ -26,6 +29,7 @@ public:
     Q_INVOKABLE void select(int index);
 
     HomeView *home() { return &home_; }
+    TMailView *mail() { return &mail_; }
     SettingsView *settings() { return &settings_; }
 
 Q_SIGNALS:
@@ -37,6 +41,7 @@ private:
 
     RequestViewModel &request_;
     HomeView home_;
+    TMailView mail_;
     SettingsView settings_;
     int selectedIndex_ = 0;
     KeyedListModel tabs_;
