@@ -47,8 +47,8 @@ protected:
 void MailWalk::buildAddress() {
     ASSERT_TRUE(host.start());
     startProgramWith(host);
-    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Germany")), "a country"));
-    ASSERT_NO_FATAL_FAILURE(press(number(QStringLiteral("+49")), "a number"));
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("United States")), "a country"));
+    ASSERT_NO_FATAL_FAILURE(press(number(QStringLiteral("+1")), "a number"));
     ASSERT_NO_FATAL_FAILURE(openTab());
     ASSERT_TRUE(wait(named(QStringLiteral("Create Your Temporary Email Address"))));
     lookAround(QStringLiteral("30-mail-builder"));
