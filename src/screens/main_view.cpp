@@ -30,11 +30,11 @@ int rowOf(Tab tab) {
 
 } // namespace
 
-MainView::MainView(Process &process, RequestViewModel &request, InternetViewModel &internet,
-                   CopyViewModel &copy, QObject *parent)
+MainView::MainView(Process &process, const AdPlaces &ads, RequestViewModel &request,
+                   InternetViewModel &internet, CopyViewModel &copy, QObject *parent)
     : QObject(parent),
       request_(request),
-      home_(process, request, internet, copy),
+      home_(process, ads, request, internet, copy),
       settings_(process, request, internet, copy),
       selectedIndex_(rowOf(request.selectedTab())),
       tabs_({"label", "image"}) {
