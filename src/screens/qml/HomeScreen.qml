@@ -38,7 +38,9 @@ Item {
         }
         onMovementStarted: atTop = false
         onMovementEnded: atTop = atYBeginning
-        onCountChanged: settle.restart()
+        // A page that brings as many rows as it takes away leaves the count alone.
+        onOriginYChanged: settle.restart()
+        onContentHeightChanged: settle.restart()
         onWidthChanged: settle.restart()
         Component.onCompleted: layOut()
         anchors.top: parent.top
