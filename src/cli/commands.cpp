@@ -123,6 +123,9 @@ void Commands::start() {
     case CommandLine::Command::Wait: return waitForMessage();
     case CommandLine::Command::Choose: return chooseNumber();
     case CommandLine::Command::History:
+    case CommandLine::Command::Mail:
+    case CommandLine::Command::MailShow:
+    case CommandLine::Command::MailWait:
     case CommandLine::Command::Help:
     case CommandLine::Command::Version: return finish(ExitCode::WrongUse);
     }
