@@ -1,6 +1,7 @@
 // What an arena holds beside its nodes, for the few pages that need it.
 #pragma once
 
+#include "answers.h"
 #include "columns.h"
 #include "core.h"
 
@@ -27,6 +28,7 @@ struct ChildIndex {
 struct Arena::Tables {
     ChildIndex children;
     Columns columns;
+    Answers answers;
     std::unordered_map<const NodeRec *, std::shared_ptr<FormList>> forms;
     std::unordered_map<const NodeRec *, std::string_view> baseUris;
     std::unordered_map<const NodeRec *, std::uint64_t> moreHolders;
