@@ -20,8 +20,8 @@ using FormList = std::vector<NodeRec *>;
 struct ChildIndex {
     const NodeRec *parent = nullptr;
     std::uint64_t version = 0;
-    std::vector<NodeRec *> nodes;
-    std::vector<NodeRec *> elements;
+    std::vector<Ref> nodes;
+    std::vector<Ref> elements;
     std::vector<std::uint32_t> elementPlaces; ///< of each node: how many elements stand before it
 };
 
