@@ -50,10 +50,7 @@ public:
     Phone(int senders, bool shown) : senders_(senders) {
         played_.bundle.resources[QStringLiteral("countries.json")] = "[]";
         played_.reachability.setOnline(false); // no catalogue and no configuration is wanted here
-        const Platform base = played_.platform();
-        process_ = std::make_unique<Process>(Platform{base.clock, base.mainQueue, base.globalQueue,
-                                                      base.urlReader, store_, base.reachability, base.bundle,
-                                                      base.console, base.fatal, base.endpoints});
+        process_ = std::make_unique<Process>(played_.platform().with(store_));
         for (const char *path : {"/KeLo/iOS/orl_config.json", "/KeLo/OnlineSMS/scraping_config.json"})
             played_.urls.answer(played_.endpoints.configurationHost + QString::fromLatin1(path), "");
         played_.urls.answer(url() + QStringLiteral("/2"), QByteArray());

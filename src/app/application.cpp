@@ -40,7 +40,8 @@ Application::Application(const Options &options, const Endpoints &endpoints)
       background_(base_.clock, base_.mainQueue, scene_, {AppDelegate::fetchingKey, AppDelegate::cleaningKey}),
       storePages_(base_.endpoints.storeHost),
       reviewPrompt_(browser_, StoreLinks(base_).review),
-      process_(platform()),
+      process_(base_.with(notifications_, haptics_, pasteboard_, browser_, mailComposer_, reviewPrompt_,
+                          scene_, background_)),
       delegate_(process_),
       content_(process_, appearance_) {
     delegate_.didFinishLaunching();
@@ -51,27 +52,6 @@ Application::Application(const Options &options, const Endpoints &endpoints)
 Application::~Application() {
     // Workers may use what hangs on the process; they end while it still lives.
     linux_.stop();
-}
-
-Platform Application::platform() {
-    return {.clock = base_.clock,
-            .mainQueue = base_.mainQueue,
-            .globalQueue = base_.globalQueue,
-            .urlReader = base_.urlReader,
-            .store = base_.store,
-            .reachability = base_.reachability,
-            .bundle = base_.bundle,
-            .console = base_.console,
-            .fatal = base_.fatal,
-            .endpoints = base_.endpoints,
-            .notifications = notifications_,
-            .haptics = haptics_,
-            .pasteboard = pasteboard_,
-            .browser = browser_,
-            .mailComposer = mailComposer_,
-            .storeReview = reviewPrompt_,
-            .scene = scene_,
-            .background = background_};
 }
 
 int Application::run() {

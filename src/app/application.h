@@ -41,7 +41,6 @@ public:
     void bringToFront(const QString &activationToken) { window_.bringToFront(activationToken); }
 
 private:
-    Platform platform();
     bool show();
     void awaitPicture();
     void takePictureOnceComplete();

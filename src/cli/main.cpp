@@ -25,12 +25,6 @@ int endWith(ExitCode code, const QString &notice) {
     return int(code);
 }
 
-/// The ports of the phone with the two that are watched put in between.
-Platform watched(const Platform &ports, IdleWatch &idle, ReadWatch &reads, Reachability &reachability) {
-    return {ports.clock,  ports.mainQueue, idle,          reads,       ports.store,
-            reachability, ports.bundle,    ports.console, ports.fatal, ports.endpoints};
-}
-
 /// Showing a number's messages makes it the current one; the application's own choice changes only where that
 /// was asked for.
 QString dataFolderFor(const CommandLine &line, const QTemporaryDir &scratch) {
@@ -50,7 +44,7 @@ int runCommand(const CommandLine &line, const Endpoints &endpoints) {
     ReadWatch reads(ports.urlReader);
     NoNetwork noNetwork;
     const bool offline = line.command == CommandLine::Command::History;
-    Process process(watched(ports, idle, reads, offline ? noNetwork : ports.reachability));
+    Process process(ports.with(idle, reads, offline ? noNetwork : ports.reachability));
     Commands commands(
         process, idle, reads,
         {[](const QString &result) { printLine(stdout, result); },

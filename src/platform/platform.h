@@ -19,6 +19,8 @@
 
 #include <QString>
 
+#include <type_traits>
+
 namespace orl {
 
 class Bundle;
@@ -66,6 +68,39 @@ struct Platform {
     Scene &scene = Scene::none();
     BackgroundScheduler &background = NoBackgroundScheduler::instance();
     AnalyticsService &analytics = NoAnalyticsService::instance();
+
+    /// The same phone with these ports in the places of those that have their type. A port that is several of
+    /// them takes each of their places; where two fit, the first one does.
+    template<class... Ports>
+    Platform with(Ports &...ports) const {
+        return {pick(clock, ports...),         pick(mainQueue, ports...),
+                pick(globalQueue, ports...),   pick(urlReader, ports...),
+                pick(store, ports...),         pick(reachability, ports...),
+                pick(bundle, ports...),        pick(console, ports...),
+                pick(fatal, ports...),         endpoints,
+                pick(notifications, ports...), pick(haptics, ports...),
+                pick(pasteboard, ports...),    pick(browser, ports...),
+                pick(ads, ports...),           pick(consent, ports...),
+                pick(tracking, ports...),      pick(push, ports...),
+                pick(device, ports...),        pick(random, ports...),
+                pick(mailComposer, ports...),  pick(storeReview, ports...),
+                pick(scene, ports...),         pick(background, ports...),
+                pick(analytics, ports...)};
+    }
+
+private:
+    template<class Port>
+    static Port &pick(Port &current) {
+        return current;
+    }
+
+    template<class Port, class First, class... Rest>
+    static Port &pick(Port &current, First &first, Rest &...rest) {
+        if constexpr (std::is_base_of_v<Port, First>)
+            return first;
+        else
+            return pick(current, rest...);
+    }
 };
 
 } // namespace orl

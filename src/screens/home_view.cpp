@@ -103,7 +103,6 @@ void HomeView::closeCountries() {
     if (!countriesPresented_) return;
     countriesPresented_ = false;
     Q_EMIT countriesPresentedChanged();
-    appear();
 }
 
 HomeView::State HomeView::state() const {

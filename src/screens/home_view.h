@@ -87,7 +87,9 @@ public:
     KeyedListModel *similar() { return &similar_; }
     NumberChoice *choice() { return &choice_; }
 
-    /// To be called each time that the screen appears.
+    /// To be called each time that the screen appears: at the start and with its tab. It stays where it is
+    /// below what slides over it, so going back to it from there is no appearance, and no opening that counts
+    /// towards a review.
     Q_INVOKABLE void appear();
     Q_INVOKABLE void retry() { setTryAgain(QUuid::createUuid()); }
     Q_INVOKABLE void dismissOffline() { setIsOffline(false); }

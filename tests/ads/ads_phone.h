@@ -35,24 +35,8 @@ struct AdsTest : testing::Test {
     void restart() {
         phone.endProcess();
         appVM.reset();
-        Platform base = phone.platform();
-        process = std::make_unique<Process>(Platform{.clock = base.clock,
-                                                     .mainQueue = base.mainQueue,
-                                                     .globalQueue = base.globalQueue,
-                                                     .urlReader = base.urlReader,
-                                                     .store = base.store,
-                                                     .reachability = base.reachability,
-                                                     .bundle = base.bundle,
-                                                     .console = base.console,
-                                                     .fatal = base.fatal,
-                                                     .endpoints = base.endpoints,
-                                                     .haptics = haptics,
-                                                     .ads = ads,
-                                                     .consent = consent,
-                                                     .tracking = tracking,
-                                                     .push = push,
-                                                     .device = device,
-                                                     .random = random});
+        process = std::make_unique<Process>(
+            phone.platform().with(haptics, ads, consent, tracking, push, device, random));
     }
 
     /// Puts switches in force as a document does that arrived before anything asked.

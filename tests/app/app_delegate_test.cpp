@@ -35,21 +35,7 @@ struct PlayedServices : AnalyticsService, PushService, BackgroundScheduler {
 class AppDelegateTest : public testing::Test {
 protected:
     Platform with(BackgroundScheduler &background) {
-        const Platform base = phone.platform();
-        return {.clock = base.clock,
-                .mainQueue = base.mainQueue,
-                .globalQueue = base.globalQueue,
-                .urlReader = base.urlReader,
-                .store = base.store,
-                .reachability = base.reachability,
-                .bundle = base.bundle,
-                .console = base.console,
-                .fatal = base.fatal,
-                .endpoints = base.endpoints,
-                .push = services,
-                .scene = scene,
-                .background = background,
-                .analytics = services};
+        return phone.platform().with(background, services, scene);
     }
 
     void enterBackground() {

@@ -60,8 +60,8 @@ Desk::Desk() : environment_(QProcessEnvironment::systemEnvironment()) {
 Desk::~Desk() {
     QDBusConnection::disconnectFromBus(accessibilityName);
     QDBusConnection::disconnectFromBus(sessionName);
-    portalThread_.quit();
-    portalThread_.wait();
+    services_.quit();
+    services_.wait();
     for (QProcess *service : {bus_.get(), display_.get()}) {
         service->terminate();
         if (!service->waitForFinished(5000)) service->kill();
@@ -82,9 +82,12 @@ void Desk::connectBuses() {
         environment_.value(QStringLiteral("DBUS_SESSION_BUS_ADDRESS")), sessionName);
     session.registerObject(QStringLiteral("/org/freedesktop/portal/desktop"), portal_,
                            QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
-    portal_->moveToThread(&portalThread_);
-    QObject::connect(&portalThread_, &QThread::finished, portal_, &QObject::deleteLater);
-    portalThread_.start();
+    notificationServer_ = new NotificationServer(session);
+    for (QObject *service : {static_cast<QObject *>(portal_), static_cast<QObject *>(notificationServer_)}) {
+        service->moveToThread(&services_);
+        QObject::connect(&services_, &QThread::finished, service, &QObject::deleteLater);
+    }
+    services_.start();
     session.registerService(QStringLiteral("org.freedesktop.portal.Desktop"));
 
     const QDBusMessage ask =
@@ -96,6 +99,13 @@ void Desk::connectBuses() {
     if (!bus.isConnected())
         problem_ =
             QStringLiteral("no accessibility bus: ") + answer.errorMessage() + bus.lastError().message();
+}
+
+std::vector<NotificationServer::Notification> Desk::notifications() const {
+    std::vector<NotificationServer::Notification> shown;
+    QMetaObject::invokeMethod(
+        notificationServer_, [&] { shown = notificationServer_->shown; }, Qt::BlockingQueuedConnection);
+    return shown;
 }
 
 QDBusConnection Desk::accessibilityBus() const {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/desktop/notification_server.h"
+
 #include <QDBusConnection>
 #include <QDBusContext>
 #include <QDBusVariant>
@@ -32,7 +34,7 @@ private:
 };
 
 /// A desktop of the walk's own, gone when it is destroyed: an X server without a screen, a session bus with
-/// the accessibility services on it, and a home folder.
+/// the accessibility services and a notification server on it, and a home folder.
 class Desk {
 public:
     Desk();
@@ -48,6 +50,8 @@ public:
 
     QDBusConnection accessibilityBus() const;
     PlayedPortal &portal() { return *portal_; }
+    /// What programs have asked to be notified of so far.
+    std::vector<NotificationServer::Notification> notifications() const;
 
     /// Runs a small program here to its end; what it printed.
     QString run(const QString &program, const QStringList &arguments) const;
@@ -63,8 +67,9 @@ private:
     QProcessEnvironment environment_;
     QString problem_;
     std::unique_ptr<QProcess> display_, bus_;
-    QThread portalThread_;
-    PlayedPortal *const portal_ = new PlayedPortal; ///< goes with its thread
+    QThread services_;                              ///< what answers on the session bus runs here
+    PlayedPortal *const portal_ = new PlayedPortal; ///< goes with its thread, like the next one
+    NotificationServer *notificationServer_ = nullptr;
 };
 
 } // namespace orl

@@ -75,11 +75,7 @@ protected:
     }
 
     Platform watchedPlatform() { return watchedPlatform(idle); }
-    Platform watchedPlatform(IdleWatch &watch) {
-        Platform ports = phone.platform();
-        return {ports.clock,        ports.mainQueue, watch,         reads,       ports.store,
-                ports.reachability, ports.bundle,    ports.console, ports.fatal, ports.endpoints};
-    }
+    Platform watchedPlatform(IdleWatch &watch) { return phone.platform().with(watch, reads); }
 
     PlayedPlatform phone;
     IdleWatch idle{phone.globalQueue, phone.mainQueue};
@@ -299,10 +295,7 @@ TEST_F(CommandsTest, AnEndpointThatFailsIsToldApartFromNothingFound) {
         notices.clear();
         IdleWatch freshIdle(phone.globalQueue, phone.mainQueue);
         ReadWatch freshReads(phone.urls);
-        Platform ports = watchedPlatform();
-        Process fresh(Platform{ports.clock, ports.mainQueue, freshIdle, freshReads, ports.store,
-                               ports.reachability, ports.bundle, ports.console, ports.fatal,
-                               ports.endpoints});
+        Process fresh(watchedPlatform().with(freshIdle, freshReads));
         Commands command(fresh, freshIdle, freshReads,
                          {[](const QString &) {}, [this](const QString &line) { notices << line; }});
         QStringList arguments{"orl-cli"};

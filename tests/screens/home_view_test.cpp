@@ -102,6 +102,23 @@ TEST_F(HomeTest, ChangedNumberStartsWithNoMessagesAndFetches) {
     EXPECT_TRUE(home.nothingYet());
 }
 
+/// It asks for a review at the third opening; looking at the countries and coming back opens nothing.
+TEST_F(HomeTest, GoingBackToItIsNoOpening) {
+    scene.setHasWindow(true);
+    HomeView &home = makeHome();
+    for (int times = 0; times < 3; ++times) {
+        home.openCountries();
+        home.closeCountries();
+    }
+    EXPECT_EQ(phone.store.integer(QStringLiteral("OPENED_TIME")), 1);
+    for (int times = 0; times < 2; ++times) {
+        EXPECT_EQ(storeReview.requests, 0);
+        content->main()->select(3);
+        content->main()->select(0);
+    }
+    EXPECT_EQ(storeReview.requests, 1);
+}
+
 TEST_F(HomeTest, OfflineStartSaysSoAndRetryFetches) {
     makeHome();
     restartScreens();

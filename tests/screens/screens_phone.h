@@ -91,28 +91,8 @@ struct ScreensTest : NumbersTest {
     }
 
     Platform platform() {
-        const Platform base = phone.platform();
-        return {.clock = base.clock,
-                .mainQueue = base.mainQueue,
-                .globalQueue = base.globalQueue,
-                .urlReader = base.urlReader,
-                .store = base.store,
-                .reachability = base.reachability,
-                .bundle = base.bundle,
-                .console = base.console,
-                .fatal = base.fatal,
-                .endpoints = base.endpoints,
-                .notifications = notifications,
-                .haptics = haptics,
-                .pasteboard = pasteboard,
-                .browser = browser,
-                .ads = ads,
-                .consent = consent,
-                .tracking = tracking,
-                .push = push,
-                .mailComposer = mail,
-                .storeReview = storeReview,
-                .scene = scene};
+        return phone.platform().with(notifications, haptics, pasteboard, browser, ads, consent, tracking,
+                                     push, mail, storeReview, scene);
     }
 
     /// The remote document arrives with everything on.

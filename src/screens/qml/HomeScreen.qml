@@ -22,8 +22,14 @@ Item {
         }
         onBySenderChanged: layOut()
 
-        // Until the user scrolls, the top stays in sight whatever grows above it or comes in.
+        // Until the user scrolls, the top stays in sight whatever grows above it or comes in. Another number begins
+        // there.
         property bool atTop: true
+        readonly property string number: root.view.number
+        onNumberChanged: {
+            atTop = true;
+            settle.restart();
+        }
         Timer {
             id: settle
             interval: 0

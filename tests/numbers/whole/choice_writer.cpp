@@ -45,8 +45,7 @@ int main(int argc, char **argv) {
     const Platform ports = phone.platform();
     IdleWatch idle(ports.globalQueue, ports.mainQueue);
     NoNetwork network;
-    Process process(Platform{ports.clock, ports.mainQueue, idle, ports.urlReader, ports.store, network,
-                             ports.bundle, ports.console, ports.fatal, ports.endpoints});
+    Process process(ports.with(idle, network));
     RequestViewModel numbers(process);
     Writer writer(numbers, idle, QByteArray(argv[2]).toInt());
     numbers.loadHistory([&](const QList<History> &list) {

@@ -32,9 +32,7 @@ void WholePhone::start(bool hasty) {
     hasty_ = std::make_unique<HastyReader>(ports.urlReader);
     idle_ = std::make_unique<IdleWatch>(ports.globalQueue, ports.mainQueue);
     UrlReader &reader = hasty ? *hasty_ : ports.urlReader;
-    process = std::make_unique<Process>(Platform{ports.clock, ports.mainQueue, *idle_, reader, ports.store,
-                                                 ports.reachability, ports.bundle, console, ports.fatal,
-                                                 ports.endpoints});
+    process = std::make_unique<Process>(ports.with(*idle_, reader, console));
     numbers = std::make_unique<RequestViewModel>(*process);
     settle();
 }

@@ -44,38 +44,14 @@ struct AdRequestsTest : testing::Test {
     ~AdRequestsTest() override { phone.endProcess(); }
 
     Platform base() {
-        const Platform played = phone.platform();
-        Endpoints endpoints;
-        endpoints.configurationHost = configuration.url({}).toString();
-        endpoints.adHost = adHost.url({}).toString();
-        return {.clock = played.clock,
-                .mainQueue = played.mainQueue,
-                .globalQueue = played.globalQueue,
-                .urlReader = network,
-                .store = played.store,
-                .reachability = played.reachability,
-                .bundle = played.bundle,
-                .console = played.console,
-                .fatal = played.fatal,
-                .endpoints = endpoints};
+        Platform played = phone.platform().with(network);
+        played.endpoints = {};
+        played.endpoints.configurationHost = configuration.url({}).toString();
+        played.endpoints.adHost = adHost.url({}).toString();
+        return played;
     }
 
-    Platform whole() {
-        const Platform part = base();
-        return {.clock = part.clock,
-                .mainQueue = part.mainQueue,
-                .globalQueue = part.globalQueue,
-                .urlReader = part.urlReader,
-                .store = part.store,
-                .reachability = part.reachability,
-                .bundle = part.bundle,
-                .console = part.console,
-                .fatal = part.fatal,
-                .endpoints = part.endpoints,
-                .ads = houseAds,
-                .consent = consent,
-                .tracking = tracking};
-    }
+    Platform whole() { return base().with(houseAds, consent, tracking); }
 
     std::size_t asked() { return adHost.requests(0).size(); }
 

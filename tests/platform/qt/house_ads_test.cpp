@@ -35,20 +35,7 @@ struct HouseAdsTest : testing::Test {
         ads.stage().setReady(true);
     }
 
-    Platform platform() {
-        const Platform base = phone.platform();
-        return {.clock = base.clock,
-                .mainQueue = base.mainQueue,
-                .globalQueue = base.globalQueue,
-                .urlReader = base.urlReader,
-                .store = base.store,
-                .reachability = base.reachability,
-                .bundle = base.bundle,
-                .console = base.console,
-                .fatal = base.fatal,
-                .endpoints = base.endpoints,
-                .browser = browser};
-    }
+    Platform platform() { return phone.platform().with(browser); }
 
     static QString url(const char *path) {
         return QStringLiteral("https://ads.example") + QLatin1String(path);

@@ -18,19 +18,7 @@ struct StoredConsentTest : testing::Test {
         tracking = std::make_unique<StoredTracking>(phone.store);
         consent->question().setReady(true);
         tracking->question().setReady(true);
-        Platform base = phone.platform();
-        process = std::make_unique<Process>(Platform{.clock = base.clock,
-                                                     .mainQueue = base.mainQueue,
-                                                     .globalQueue = base.globalQueue,
-                                                     .urlReader = base.urlReader,
-                                                     .store = base.store,
-                                                     .reachability = base.reachability,
-                                                     .bundle = base.bundle,
-                                                     .console = base.console,
-                                                     .fatal = base.fatal,
-                                                     .endpoints = base.endpoints,
-                                                     .consent = *consent,
-                                                     .tracking = *tracking});
+        process = std::make_unique<Process>(phone.platform().with(*consent, *tracking));
     }
 
     void update(bool showForm = true, bool isDebug = false) {
