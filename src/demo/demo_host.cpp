@@ -2,6 +2,7 @@
 
 #include "advertising.h"
 #include "first_website.h"
+#include "identities.h"
 #include "legal_pages.h"
 #include "second_website.h"
 #include "server.h"
@@ -38,12 +39,16 @@ public:
 /// Everything behind the server. A further kind of endpoint is a member here and an entry in `services`.
 struct DemoHost::World {
     explicit World(quint64 seed)
-        : catalogue(seed), configuration(catalogue), first(catalogue, seed), second(catalogue, seed) {}
+        : catalogue(seed),
+          configuration(catalogue),
+          first(catalogue, seed),
+          second(catalogue, seed),
+          identities(seed) {}
 
     demo::Server::Services services() const {
-        return {{u"config"_s, &configuration}, {u"first"_s, &first},       {u"second"_s, &second},
-                {u"mail"_s, &unserved},        {u"identity"_s, &unserved}, {u"ads"_s, &advertising},
-                {u"legal"_s, &legal},          {u"store"_s, &unserved},    {u"probe"_s, &probe}};
+        return {{u"config"_s, &configuration}, {u"first"_s, &first},         {u"second"_s, &second},
+                {u"mail"_s, &unserved},        {u"identity"_s, &identities}, {u"ads"_s, &advertising},
+                {u"legal"_s, &legal},          {u"store"_s, &unserved},      {u"probe"_s, &probe}};
     }
 
     demo::Catalogue catalogue;
@@ -52,6 +57,7 @@ struct DemoHost::World {
     demo::SecondWebsite second;
     demo::LegalPages legal;
     demo::Advertising advertising;
+    demo::Identities identities;
     Unserved unserved;
     Probe probe;
     demo::FaultTable faults;
