@@ -24,6 +24,8 @@ constexpr std::array shapes{
     Shape{CommandLine::Command::History, "history", 0, 0, "history"},
     Shape{CommandLine::Command::Choose, "choose", 2, 2, "choose COUNTRY NUMBER"},
     Shape{CommandLine::Command::Wait, "wait", 2, 2, "wait COUNTRY NUMBER [--code] [--timeout SECONDS]"},
+    Shape{CommandLine::Command::Identity, "identity", 0, 0,
+          "identity [--gender GENDER] [--name-set NAMES] [--country COUNTRY]"},
 };
 
 const Shape *shapeOf(const QString &name) {
@@ -45,6 +47,8 @@ QString misplacedOption(const CommandLine &line, bool hasTimeout) {
     if (hasTimeout && line.command != Command::Wait) return QStringLiteral("--timeout goes with wait only");
     if (!line.dataFolder.isEmpty() && !line.usesData())
         return QStringLiteral("--data goes with history and choose only");
+    if (!(line.gender + line.nameSet + line.country).isEmpty() && line.command != Command::Identity)
+        return QStringLiteral("--gender, --name-set and --country go with identity only");
     return {};
 }
 
@@ -66,6 +70,9 @@ Result<CommandLine> CommandLine::parse(const QStringList &arguments) {
                        {QStringLiteral("code"), {}},
                        {QStringLiteral("timeout"), {}, QStringLiteral("SECONDS")},
                        {QStringLiteral("data"), {}, QStringLiteral("FOLDER")},
+                       {QStringLiteral("gender"), {}, QStringLiteral("GENDER")},
+                       {QStringLiteral("name-set"), {}, QStringLiteral("NAMES")},
+                       {QStringLiteral("country"), {}, QStringLiteral("COUNTRY")},
                        {{QStringLiteral("help"), QStringLiteral("h")}, {}},
                        {QStringLiteral("version"), {}},
                        {QStringLiteral("endpoints"), {}, QStringLiteral("FILE")}});
@@ -75,6 +82,9 @@ Result<CommandLine> CommandLine::parse(const QStringList &arguments) {
     line.json = parser.isSet(QStringLiteral("json"));
     line.watch = parser.isSet(QStringLiteral("watch"));
     line.code = parser.isSet(QStringLiteral("code"));
+    line.gender = parser.value(QStringLiteral("gender"));
+    line.nameSet = parser.value(QStringLiteral("name-set"));
+    line.country = parser.value(QStringLiteral("country"));
     line.dataFolder = parser.value(QStringLiteral("data"));
     line.endpointsFile = parser.value(QStringLiteral("endpoints"));
     line.arguments = parser.positionalArguments();
@@ -114,6 +124,12 @@ QString CommandLine::help() {
   history                      the numbers that were chosen, newest first
       --data FOLDER            of both: the application's data in FOLDER
 
+  identity                     a made-up person
+      --gender GENDER          male or female; random if left open
+      --name-set NAMES         whose names, such as english or japanese
+      --country COUNTRY        where the person lives, such as united-states
+
+  qr TEXT                      a text as a QR code: orl-cli qr --help
   html COMMAND                 the document engine for files of your own: orl-cli html --help
 
   --json                       JSON instead of text: one list, with --watch one object per line

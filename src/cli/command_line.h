@@ -15,7 +15,7 @@ enum class ExitCode { Done = 0, NothingFound = 1, WrongUse = 2, EndpointFailed =
 
 /// What the user typed, checked.
 struct CommandLine {
-    enum class Command { Help, Version, Countries, Numbers, Messages, History, Choose, Wait };
+    enum class Command { Help, Version, Countries, Numbers, Messages, History, Choose, Wait, Identity };
 
     Command command = Command::Help;
     QStringList arguments; ///< those of the command, without options
@@ -23,6 +23,7 @@ struct CommandLine {
     bool watch = false;
     bool code = false;
     std::optional<std::chrono::seconds> timeout; ///< of Wait; nothing: as long as it takes
+    QString gender, nameSet, country;            ///< of Identity, as typed
     QString dataFolder;                          ///< of History and Choose; empty: the application's own
     QString endpointsFile;                       ///< empty: the ones of the build
 
