@@ -54,7 +54,7 @@ void ContentView::followNumber() {
 void ContentView::settleRoot() {
     if (requestVM_.currentCountry()) {
         if (main_) return;
-        main_ = std::make_unique<MainView>(process_, requestVM_, internetVM_, copyVM_);
+        main_ = std::make_unique<MainView>(process_, requestVM_, internetVM_, copyVM_, appConfigVM_);
     } else if (!chooser_) {
         chooser_ = std::make_unique<ChoosePhoneView>(process_, requestVM_, internetVM_);
     } else {

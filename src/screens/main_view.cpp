@@ -31,10 +31,11 @@ int rowOf(Tab tab) {
 } // namespace
 
 MainView::MainView(Process &process, RequestViewModel &request, InternetViewModel &internet,
-                   CopyViewModel &copy, QObject *parent)
+                   CopyViewModel &copy, AppConfigViewModel &appVM, QObject *parent)
     : QObject(parent),
       request_(request),
       home_(process, request, internet, copy),
+      fakeGenerator_(process, request, internet, copy, appVM),
       settings_(process, request, internet, copy),
       selectedIndex_(rowOf(request.selectedTab())),
       tabs_({"label", "image"}) {
@@ -53,6 +54,7 @@ void MainView::followSelectedTab() {
     listTabs();
     Q_EMIT selectedIndexChanged();
     if (tabRows[size_t(row)].tab == Tab::home) home_.appear();
+    if (tabRows[size_t(row)].tab == Tab::fakeGenerator) fakeGenerator_.appear();
     if (tabRows[size_t(row)].tab == Tab::profile) settings_.appear();
 }
 

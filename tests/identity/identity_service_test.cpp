@@ -22,12 +22,9 @@ struct IdentityServiceTest : testing::Test {
     }
 
     Platform platform() {
-        const Platform p = phone.platform();
-        Endpoints endpoints = p.endpoints;
-        endpoints.identityHost = host;
-        return {p.clock,   p.mainQueue, p.globalQueue, p.urlReader,     p.store,   p.reachability, p.bundle,
-                p.console, p.fatal,     endpoints,     p.notifications, p.haptics, p.pasteboard,   p.browser,
-                p.ads,     p.consent,   p.tracking,    p.push,          p.device,  random};
+        Platform made = phone.platform().with(random);
+        made.endpoints.identityHost = host;
+        return made;
     }
 
     void serve(const QJsonObject &wire) { phone.urls.answer(adaUrl, encodeJson(wire)); }
