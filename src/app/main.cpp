@@ -53,6 +53,8 @@ int main(int argc, char **argv) {
         if (const auto exitCode = endsHere(instance, activationToken)) {
             if (*exitCode == 0 && line.options->choose)
                 std::fputs("orl: it runs already; choose the number there\n", stderr);
+            if (*exitCode == 0 && line.options->resetConsent)
+                std::fputs("orl: it runs already; close it to be asked again\n", stderr);
             return *exitCode;
         }
     }

@@ -1,5 +1,7 @@
 #include "cli/command_line.h"
 
+#include "mail/address.h"
+
 #include <QCommandLineParser>
 
 #include <algorithm>
@@ -17,6 +19,8 @@ struct Shape {
     const char *usage;
 };
 
+constexpr char mailUsage[] = "mail ADDRESS [--watch], mail ADDRESS show ID [--text] or mail ADDRESS wait";
+
 constexpr std::array shapes{
     Shape{CommandLine::Command::Countries, "countries", 0, 1, "countries [TERM]"},
     Shape{CommandLine::Command::Numbers, "numbers", 1, 1, "numbers COUNTRY"},
@@ -24,6 +28,7 @@ constexpr std::array shapes{
     Shape{CommandLine::Command::History, "history", 0, 0, "history"},
     Shape{CommandLine::Command::Choose, "choose", 2, 2, "choose COUNTRY NUMBER"},
     Shape{CommandLine::Command::Wait, "wait", 2, 2, "wait COUNTRY NUMBER [--code] [--timeout SECONDS]"},
+    Shape{CommandLine::Command::Mail, "mail", 1, 3, mailUsage},
     Shape{CommandLine::Command::Identity, "identity", 0, 0,
           "identity [--gender GENDER] [--name-set NAMES] [--country COUNTRY]"},
 };
@@ -41,15 +46,26 @@ Error wrong(const QString &text) {
 /// What is wrong with options that a command does not take, or an empty text.
 QString misplacedOption(const CommandLine &line, bool hasTimeout) {
     using Command = CommandLine::Command;
-    if (line.watch && line.command != Command::Messages)
-        return QStringLiteral("--watch goes with messages only");
-    if (line.code && line.command != Command::Wait) return QStringLiteral("--code goes with wait only");
-    if (hasTimeout && line.command != Command::Wait) return QStringLiteral("--timeout goes with wait only");
+    const bool waits = line.command == Command::Wait || line.command == Command::MailWait;
+    if (line.watch && line.command != Command::Messages && line.command != Command::Mail)
+        return QStringLiteral("--watch goes with messages and mail only");
+    if (line.code && !waits) return QStringLiteral("--code goes with wait only");
+    if (hasTimeout && !waits) return QStringLiteral("--timeout goes with wait only");
+    if (line.text && line.command != Command::MailShow)
+        return QStringLiteral("--text goes with mail ADDRESS show only");
     if (!line.dataFolder.isEmpty() && !line.usesData())
         return QStringLiteral("--data goes with history and choose only");
     if (!(line.gender + line.nameSet + line.country).isEmpty() && line.command != Command::Identity)
         return QStringLiteral("--gender, --name-set and --country go with identity only");
     return {};
+}
+
+/// What follows an address; nothing for words that are no command.
+std::optional<CommandLine::Command> mailCommand(const QStringList &arguments) {
+    if (arguments.size() == 1) return CommandLine::Command::Mail;
+    if (arguments.size() == 3 && arguments[1] == QLatin1String("show")) return CommandLine::Command::MailShow;
+    if (arguments.size() == 2 && arguments[1] == QLatin1String("wait")) return CommandLine::Command::MailWait;
+    return std::nullopt;
 }
 
 constexpr int longestTimeout = 7 * 24 * 60 * 60; // seconds
@@ -68,6 +84,7 @@ Result<CommandLine> CommandLine::parse(const QStringList &arguments) {
     parser.addOptions({{QStringLiteral("json"), {}},
                        {QStringLiteral("watch"), {}},
                        {QStringLiteral("code"), {}},
+                       {QStringLiteral("text"), {}},
                        {QStringLiteral("timeout"), {}, QStringLiteral("SECONDS")},
                        {QStringLiteral("data"), {}, QStringLiteral("FOLDER")},
                        {QStringLiteral("gender"), {}, QStringLiteral("GENDER")},
@@ -82,6 +99,7 @@ Result<CommandLine> CommandLine::parse(const QStringList &arguments) {
     line.json = parser.isSet(QStringLiteral("json"));
     line.watch = parser.isSet(QStringLiteral("watch"));
     line.code = parser.isSet(QStringLiteral("code"));
+    line.text = parser.isSet(QStringLiteral("text"));
     line.gender = parser.value(QStringLiteral("gender"));
     line.nameSet = parser.value(QStringLiteral("name-set"));
     line.country = parser.value(QStringLiteral("country"));
@@ -102,6 +120,13 @@ Result<CommandLine> CommandLine::parse(const QStringList &arguments) {
     if (count < shape->fewest || count > shape->most)
         return wrong(QStringLiteral("usage: orl-cli ") + QLatin1String(shape->usage));
     line.command = shape->command;
+    if (line.command == Command::Mail) {
+        const std::optional<Command> command = mailCommand(line.arguments);
+        if (!command) return wrong(QStringLiteral("usage: orl-cli ") + QLatin1String(mailUsage));
+        if (!isWellFormedAddress(line.arguments[0]))
+            return wrong(QStringLiteral("\"%1\" is no mail address").arg(line.arguments[0]));
+        line.command = *command;
+    }
     const QString timeout = parser.value(QStringLiteral("timeout"));
     if (const QString problem = misplacedOption(line, !timeout.isEmpty()); !problem.isEmpty())
         return wrong(problem);
@@ -124,6 +149,13 @@ QString CommandLine::help() {
   history                      the numbers that were chosen, newest first
       --data FOLDER            of both: the application's data in FOLDER
 
+  mail ADDRESS                 the mails of an inbox, newest at the bottom; any address has one
+      --watch                  stay, and print each new mail as it arrives
+  mail ADDRESS show ID         a mail as it was sent
+      --text                   its words alone
+  mail ADDRESS wait            the next mail that arrives; earlier ones do not count
+      --code, --timeout        as for wait; the code may be in the subject
+
   identity                     a made-up person
       --gender GENDER          male or female; random if left open
       --name-set NAMES         whose names, such as english or japanese
@@ -137,7 +169,7 @@ QString CommandLine::help() {
                                ORL_ENDPOINTS names such a file too
   --help, --version
 
-Everybody can read the messages of a public number. Without endpoints the program reads its own demo host.
+Everybody can read the messages of a public number, and the mails of an address. Without endpoints the program reads its own demo host.
 Exit code: 0 done, 1 nothing found or come, 2 wrong use, 3 an endpoint failed.
 )");
 }

@@ -127,6 +127,9 @@ void Commands::start() {
     case CommandLine::Command::Choose: return chooseNumber();
     case CommandLine::Command::History:
     case CommandLine::Command::Identity:
+    case CommandLine::Command::Mail:
+    case CommandLine::Command::MailShow:
+    case CommandLine::Command::MailWait:
     case CommandLine::Command::Help:
     case CommandLine::Command::Version: return finish(ExitCode::WrongUse);
     }

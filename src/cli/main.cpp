@@ -1,5 +1,6 @@
 #include "cli/commands.h"
 #include "cli/html_command.h"
+#include "cli/mail_command.h"
 #include "cli/port_watch.h"
 #include "cli/qr_command.h"
 #include "demo/endpoints_in_force.h"
@@ -43,15 +44,22 @@ int runCommand(const CommandLine &line, const Endpoints &endpoints) {
     const Platform ports = phone.platform();
     IdleWatch idle(ports.globalQueue, ports.mainQueue);
     ReadWatch reads(ports.urlReader);
+    ConsoleWatch console(ports.console);
     NoNetwork noNetwork;
     const bool offline = line.command == CommandLine::Command::History;
-    Process process(ports.with(idle, reads, offline ? noNetwork : ports.reachability));
-    Commands commands(
-        process, idle, reads,
-        {[](const QString &result) { printLine(stdout, result); },
-         [](const QString &notice) { printLine(stderr, QStringLiteral("orl-cli: ") + notice); }});
-    commands.run(line, [](ExitCode code) { QCoreApplication::exit(int(code)); });
+    Process process(ports.with(idle, reads, console, offline ? noNetwork : ports.reachability));
+    const Commands::Output output{
+        [](const QString &result) { printLine(stdout, result); },
+        [](const QString &notice) { printLine(stderr, QStringLiteral("orl-cli: ") + notice); }};
+    const auto end = [](ExitCode code) { QCoreApplication::exit(int(code)); };
+    Commands commands(process, idle, reads, output);
+    MailCommand mail(process, idle, reads, output);
+    if (line.isAboutMail())
+        mail.run(line, end);
+    else
+        commands.run(line, end);
     const int code = QCoreApplication::exec();
+    console.end();
     phone.stop();
     return code;
 }

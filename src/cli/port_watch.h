@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/console.h"
 #include "platform/queues.h"
 #include "platform/reachability.h"
 #include "platform/url_reader.h"
@@ -46,6 +47,21 @@ public:
 private:
     UrlReader &reader_;
     std::atomic<int> failures_ = 0;
+};
+
+/// Passes lines on until the command has ended: what breaks off then is no failure.
+class ConsoleWatch : public Console {
+public:
+    explicit ConsoleWatch(Console &console) : console_(console) {}
+
+    void print(const QString &line) override {
+        if (!ended_) console_.print(line);
+    }
+    void end() { ended_ = true; }
+
+private:
+    Console &console_;
+    std::atomic<bool> ended_ = false;
 };
 
 /// A network that leads nowhere, for commands that need none: nothing is fetched that nobody waits for.

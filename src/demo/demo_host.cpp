@@ -4,6 +4,7 @@
 #include "first_website.h"
 #include "identities.h"
 #include "legal_pages.h"
+#include "mail/mailboxes.h"
 #include "second_website.h"
 #include "server.h"
 
@@ -43,18 +44,22 @@ struct DemoHost::World {
           configuration(catalogue),
           first(catalogue, seed),
           second(catalogue, seed),
+          mail(seed),
           identities(seed) {}
 
     demo::Server::Services services() const {
-        return {{u"config"_s, &configuration}, {u"first"_s, &first},         {u"second"_s, &second},
-                {u"mail"_s, &unserved},        {u"identity"_s, &identities}, {u"ads"_s, &advertising},
-                {u"legal"_s, &legal},          {u"store"_s, &unserved},      {u"probe"_s, &probe}};
+        return {{u"config"_s, &configuration}, {u"first"_s, &first},
+                {u"second"_s, &second},        {u"mail"_s, &mail},
+                {u"identity"_s, &identities},  {u"ads"_s, &advertising},
+                {u"legal"_s, &legal},          {u"store"_s, &unserved},
+                {u"probe"_s, &probe}};
     }
 
     demo::Catalogue catalogue;
     demo::ConfigurationDocuments configuration;
     demo::FirstWebsite first;
     demo::SecondWebsite second;
+    demo::Mailboxes mail;
     demo::LegalPages legal;
     demo::Advertising advertising;
     demo::Identities identities;

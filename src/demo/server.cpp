@@ -109,7 +109,8 @@ Reply Server::answer(const QHttpServerRequest &request) const {
     const QString path = request.url().path(QUrl::FullyDecoded);
     const QString segment = path.section(u'/', 1, 1);
     if (const auto service = services_.constFind(segment); service != services_.constEnd())
-        return (*service)->answer({path.mid(segment.size() + 1), clock_()});
+        return (*service)->answer({path.mid(segment.size() + 1), clock_(), request.query(),
+                                   request.value("Accept"), request.value("Host")});
     return fallback_.answer({path, clock_()});
 }
 

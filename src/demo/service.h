@@ -2,12 +2,16 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QUrlQuery>
 
 namespace orl::demo {
 
 struct Request {
     QString path; ///< behind the service's own first segment, decoded, with a leading slash
     double now;   ///< seconds since 1970
+    QUrlQuery query = {};
+    QByteArray accept = {}; ///< the header of that name
+    QByteArray host = {};   ///< under which name and port the client found the server
 };
 
 struct Reply {

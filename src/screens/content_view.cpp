@@ -13,6 +13,7 @@ ContentView::ContentView(Process &process, Appearance &appearance, QObject *pare
       internetVM_(process.shared<InternetViewModel>()),
       copyVM_(process),
       appConfigVM_(process, adCalls(process)),
+      adPlaces_(process, appConfigVM_),
       splash_(process, appConfigVM_),
       conversation_(process, requestVM_, copyVM_),
       swipe_(requestVM_),
@@ -54,7 +55,7 @@ void ContentView::followNumber() {
 void ContentView::settleRoot() {
     if (requestVM_.currentCountry()) {
         if (main_) return;
-        main_ = std::make_unique<MainView>(process_, requestVM_, internetVM_, copyVM_, appConfigVM_);
+        main_ = std::make_unique<MainView>(process_, adPlaces_, requestVM_, internetVM_, copyVM_);
     } else if (!chooser_) {
         chooser_ = std::make_unique<ChoosePhoneView>(process_, requestVM_, internetVM_);
     } else {

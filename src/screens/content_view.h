@@ -3,6 +3,7 @@
 #include "config/app_config_view_model.h"
 #include "config/internet_view_model.h"
 #include "numbers/request_view_model.h"
+#include "screens/ad_places.h"
 #include "screens/appearance.h"
 #include "screens/conversation_view.h"
 #include "screens/copy_view_model.h"
@@ -19,6 +20,7 @@ class ContentView : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
     Q_PROPERTY(orl::Appearance *appearance READ appearance CONSTANT)
+    Q_PROPERTY(orl::AdPlaces *adPlaces READ adPlaces CONSTANT)
     Q_PROPERTY(orl::CopyViewModel *copyVM READ copyVM CONSTANT)
     Q_PROPERTY(bool hasCountry READ hasCountry NOTIFY rootChanged)
     Q_PROPERTY(orl::ChoosePhoneView *chooser READ chooser NOTIFY rootChanged)
@@ -35,6 +37,7 @@ public:
     CopyViewModel *copyVM() { return &copyVM_; }
     RequestViewModel &requestVM() { return requestVM_; }
     AppConfigViewModel &appConfigVM() { return appConfigVM_; }
+    AdPlaces *adPlaces() { return &adPlaces_; }
 
     /// With a country the tabs are the root, without one the first-run chooser.
     bool hasCountry() const { return main_ != nullptr; }
@@ -75,6 +78,7 @@ private:
     InternetViewModel &internetVM_;
     CopyViewModel copyVM_;
     AppConfigViewModel appConfigVM_;
+    AdPlaces adPlaces_;
     SplashView splash_;
     ConversationView conversation_;
     FullSwipePopHelper swipe_;

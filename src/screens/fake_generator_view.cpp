@@ -25,22 +25,21 @@ QStringList displayTexts(const QList<Value> &values) {
 
 } // namespace
 
-FakeGeneratorView::FakeGeneratorView(Process &process, RequestViewModel &request, InternetViewModel &internet,
-                                     CopyViewModel &copy, AppConfigViewModel &appVM, QObject *parent)
+FakeGeneratorView::FakeGeneratorView(Process &process, const AdPlaces &ads, RequestViewModel &request,
+                                     InternetViewModel &internet, CopyViewModel &copy, QObject *parent)
     : QObject(parent),
       process_(process),
       request_(request),
       internet_(internet),
-      appVM_(appVM),
       generateButtonTitle_(generateTitle()),
       genders_({"text", "picture", "chosen"}),
       results_(copy),
-      nativeWithButton_(process, appVM) {
+      nativeWithButton_(ads.nativeWithGenerateButton()) {
     connect(&internet_, &InternetViewModel::isConnectedChanged, this, &FakeGeneratorView::isOfflineChanged);
     connect(&request_, &RequestViewModel::savedIdentitiesChanged, this,
             &FakeGeneratorView::savedIdentitiesChanged);
-    connect(&nativeWithButton_, &NativeWithGenerateButton::doGenerateChanged, this, [this] {
-        nativeWithButton_.setShowNativeBeforeGenerate(false);
+    connect(nativeWithButton_.get(), &NativeWithGenerateButton::doGenerateChanged, this, [this] {
+        nativeWithButton_->setShowNativeBeforeGenerate(false);
         after(waitAfterNative, &FakeGeneratorView::generate);
     });
     listGenders();
@@ -52,17 +51,6 @@ void FakeGeneratorView::appear() {
     internet_.checkConnection();
     if (const auto stored = process_.shared<SavedIdentities>().load())
         request_.setSavedIdentities(published(*stored));
-    if (!banner_) buildAds();
-}
-
-/// Their loads begin when they are built, so not ahead of the screen's first appearance.
-void FakeGeneratorView::buildAds() {
-    nativeCard_ = std::make_unique<NativeAdCardView>(
-        process_, appVM_, NativeModel{QStringLiteral("fake_generator"), NativeAdType::IDENTITY_HOME});
-    afterButtonCard_ = std::make_unique<NativeAdCardView>(
-        process_, appVM_, NativeModel{QStringLiteral("after_button"), NativeAdType::IDENTITY_AFTER_BUTTON});
-    banner_ = std::make_unique<BannerView>(process_, appVM_);
-    Q_EMIT adsBuilt();
 }
 
 bool FakeGeneratorView::isOffline() const {
@@ -124,7 +112,7 @@ void FakeGeneratorView::chooseCountry(int index) {
 void FakeGeneratorView::tapGenerate() {
     if (disableGenerating_) return;
     if (fakeIdentity_) return reset();
-    if (nativeBeforeGenerate) return nativeWithButton_.setShowNativeBeforeGenerate(true);
+    if (nativeBeforeGenerate) return nativeWithButton_->setShowNativeBeforeGenerate(true);
     generate();
 }
 

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "ads/banner_view.h"
-#include "ads/native_with_generate_button.h"
 #include "identity/identity_service.h"
+#include "screens/ad_places.h"
 #include "screens/generated_results_view.h"
 #include "screens/saved_identities_view.h"
 #include "screens/ssn_is_valid_alert_view.h"
@@ -44,9 +43,6 @@ class FakeGeneratorView : public QObject {
     Q_PROPERTY(orl::GeneratedResultsView *results READ results CONSTANT)
     Q_PROPERTY(orl::SSNIsValidAlertView *ssnAlert READ ssnAlert CONSTANT)
     Q_PROPERTY(orl::NativeWithGenerateButton *nativeWithButton READ nativeWithButton CONSTANT)
-    Q_PROPERTY(orl::NativeAdCardView *nativeCard READ nativeCard NOTIFY adsBuilt)
-    Q_PROPERTY(orl::NativeAdCardView *afterButtonCard READ afterButtonCard NOTIFY adsBuilt)
-    Q_PROPERTY(orl::BannerView *banner READ banner NOTIFY adsBuilt)
 public:
     static constexpr std::chrono::milliseconds saveButtonAfter{700};
     static constexpr std::chrono::milliseconds busyAfterSuccess{1000};
@@ -54,8 +50,8 @@ public:
     /// How long "check_mark" plays; as long as its file says.
     static constexpr std::chrono::milliseconds checkMarkLasts{1200};
 
-    FakeGeneratorView(Process &process, RequestViewModel &request, InternetViewModel &internet,
-                      CopyViewModel &copy, AppConfigViewModel &appVM, QObject *parent = nullptr);
+    FakeGeneratorView(Process &process, const AdPlaces &ads, RequestViewModel &request,
+                      InternetViewModel &internet, CopyViewModel &copy, QObject *parent = nullptr);
     ~FakeGeneratorView() override;
 
     /// To be called each time that the screen appears.
@@ -119,10 +115,7 @@ public:
     /// Whether a native card is to hold a generation back. Nothing sets it so far.
     bool nativeBeforeGenerate = false;
 
-    NativeWithGenerateButton *nativeWithButton() { return &nativeWithButton_; }
-    NativeAdCardView *nativeCard() const { return nativeCard_.get(); } ///< null until the screen appeared
-    NativeAdCardView *afterButtonCard() const { return afterButtonCard_.get(); }
-    BannerView *banner() const { return banner_.get(); }
+    NativeWithGenerateButton *nativeWithButton() { return nativeWithButton_.get(); }
 
 Q_SIGNALS:
     void isOfflineChanged();
@@ -136,11 +129,9 @@ Q_SIGNALS:
     void saveDialogChanged();
     void savedCheckMarkAnimationChanged();
     void showSavedIdentitiesChanged();
-    void adsBuilt();
 
 private:
     void setTryAgain(const QUuid &signal);
-    void buildAds();
     void listGenders();
     void reset();
     void generate();
@@ -160,7 +151,6 @@ private:
     Process &process_;
     RequestViewModel &request_;
     InternetViewModel &internet_;
-    AppConfigViewModel &appVM_;
     FakeGender genederSelection_ = FakeGender::Random; // spelled so on purpose
     FakeNameSet nameSetSelection_ = FakeNameSet::English;
     FakeCountry countrySelection_ = FakeCountry::UnitedStates;
@@ -176,11 +166,8 @@ private:
     KeyedListModel genders_;
     GeneratedResultsView results_;
     SSNIsValidAlertView ssnAlert_;
-    NativeWithGenerateButton nativeWithButton_;
+    const std::unique_ptr<NativeWithGenerateButton> nativeWithButton_;
     std::unique_ptr<SavedIdentitiesView> saved_;
-    std::unique_ptr<NativeAdCardView> nativeCard_;
-    std::unique_ptr<NativeAdCardView> afterButtonCard_;
-    std::unique_ptr<BannerView> banner_;
 };
 
 } // namespace orl

@@ -30,12 +30,12 @@ int rowOf(Tab tab) {
 
 } // namespace
 
-MainView::MainView(Process &process, RequestViewModel &request, InternetViewModel &internet,
-                   CopyViewModel &copy, AppConfigViewModel &appVM, QObject *parent)
+MainView::MainView(Process &process, const AdPlaces &ads, RequestViewModel &request,
+                   InternetViewModel &internet, CopyViewModel &copy, QObject *parent)
     : QObject(parent),
       request_(request),
-      home_(process, request, internet, copy),
-      fakeGenerator_(process, request, internet, copy, appVM),
+      home_(process, ads, request, internet, copy),
+      fakeGenerator_(process, ads, request, internet, copy),
       settings_(process, request, internet, copy),
       selectedIndex_(rowOf(request.selectedTab())),
       tabs_({"label", "image"}) {

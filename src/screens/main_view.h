@@ -17,8 +17,8 @@ class MainView : public QObject {
     Q_PROPERTY(orl::FakeGeneratorView *fakeGenerator READ fakeGenerator CONSTANT)
     Q_PROPERTY(orl::SettingsView *settings READ settings CONSTANT)
 public:
-    MainView(Process &process, RequestViewModel &request, InternetViewModel &internet, CopyViewModel &copy,
-             AppConfigViewModel &appVM, QObject *parent = nullptr);
+    MainView(Process &process, const AdPlaces &ads, RequestViewModel &request, InternetViewModel &internet,
+             CopyViewModel &copy, QObject *parent = nullptr);
 
     /// In display order. Roles "label" and "image" (a symbol).
     KeyedListModel *tabs() { return &tabs_; }

@@ -11,6 +11,9 @@ struct Case {
     QString error; ///< empty: the line is accepted
 };
 
+const char *const mailUsage =
+    "usage: orl-cli mail ADDRESS [--watch], mail ADDRESS show ID [--text] or mail ADDRESS wait";
+
 TEST(CommandLineTest, RejectsWrongUseInWords) {
     const Case cases[] = {
         {"a term is optional", {"countries"}, {}},
@@ -21,7 +24,7 @@ TEST(CommandLineTest, RejectsWrongUseInWords) {
         {"unknown command", {"number", "France"}, "unknown command \"number\""},
         {"a country is needed", {"numbers"}, "usage: orl-cli numbers COUNTRY"},
         {"a number is needed", {"messages", "France"}, "usage: orl-cli messages COUNTRY NUMBER [--watch]"},
-        {"watch elsewhere", {"numbers", "France", "--watch"}, "--watch goes with messages only"},
+        {"watch elsewhere", {"numbers", "France", "--watch"}, "--watch goes with messages and mail only"},
         {"history takes nothing", {"history", "France"}, "usage: orl-cli history"},
         {"choose needs a number", {"choose", "France"}, "usage: orl-cli choose COUNTRY NUMBER"},
         {"wait needs a number",
@@ -35,6 +38,17 @@ TEST(CommandLineTest, RejectsWrongUseInWords) {
          {"messages", "France", "1", "--data", "here"},
          "--data goes with history and choose only"},
         {"data", {"history", "--data", "here"}, {}},
+        {"mail needs an address", {"mail"}, mailUsage},
+        {"mail", {"mail", "a@x.example", "--watch", "--json"}, {}},
+        {"no address", {"mail", "nobody"}, "\"nobody\" is no mail address"},
+        {"show needs an id", {"mail", "a@x.example", "show"}, mailUsage},
+        {"show", {"mail", "a@x.example", "show", "m1", "--text"}, {}},
+        {"wait for mail", {"mail", "a@x.example", "wait", "--code", "--timeout", "9"}, {}},
+        {"wait for one mail", {"mail", "a@x.example", "wait", "m1"}, mailUsage},
+        {"text elsewhere", {"mail", "a@x.example", "--text"}, "--text goes with mail ADDRESS show only"},
+        {"watching a wait",
+         {"mail", "a@x.example", "wait", "--watch"},
+         "--watch goes with messages and mail only"},
         {"unknown option", {"numbers", "France", "--fast"}, "Unknown option 'fast'."},
         {"a file is needed", {"countries", "--endpoints"}, "Missing value after '--endpoints'."},
     };

@@ -12,10 +12,12 @@ constexpr int patience = 30'000; // milliseconds; only a broken server makes a t
 
 } // namespace
 
-void sendRequest(QTcpSocket &socket, quint16 port, const QString &path, const QByteArray &method) {
+void sendRequest(QTcpSocket &socket, quint16 port, const QString &path, const QByteArray &method,
+                 const QByteArray &headers) {
     socket.connectToHost(QStringLiteral("127.0.0.1"), port);
     ASSERT_TRUE(socket.waitForConnected(patience));
-    socket.write(method + ' ' + path.toUtf8() + " HTTP/1.1\r\nHost: 127.0.0.1\r\nConnection: close\r\n\r\n");
+    socket.write(method + ' ' + path.toUtf8() + " HTTP/1.1\r\nHost: 127.0.0.1\r\nConnection: close\r\n" +
+                 headers + "\r\n");
     socket.flush();
 }
 
@@ -39,9 +41,9 @@ Answer readAnswer(QTcpSocket &socket) {
     return answer;
 }
 
-Answer fetch(quint16 port, const QString &path, const QByteArray &method) {
+Answer fetch(quint16 port, const QString &path, const QByteArray &method, const QByteArray &headers) {
     QTcpSocket socket;
-    sendRequest(socket, port, path, method);
+    sendRequest(socket, port, path, method, headers);
     return readAnswer(socket);
 }
 

@@ -21,8 +21,11 @@ struct Answer {
 };
 
 /// Blocking, on the caller's thread, as the program's own readers are.
-Answer fetch(quint16 port, const QString &path, const QByteArray &method = "GET");
-void sendRequest(QTcpSocket &socket, quint16 port, const QString &path, const QByteArray &method = "GET");
+/// `headers` are whole lines, each with its end.
+Answer fetch(quint16 port, const QString &path, const QByteArray &method = "GET",
+             const QByteArray &headers = {});
+void sendRequest(QTcpSocket &socket, quint16 port, const QString &path, const QByteArray &method = "GET",
+                 const QByteArray &headers = {});
 Answer readAnswer(QTcpSocket &socket);
 
 /// A host on a clock that only the test moves.

@@ -51,11 +51,10 @@ FocusScope {
                         duration: Theme.motion
                     }
                 }
-                Loader {
+                NativeAdSlot {
                     x: Theme.margin
                     width: parent.width - 2 * Theme.margin
-                    active: root.view.nativeCard !== null
-                    sourceComponent: NativeAdCard { view: root.view.nativeCard }
+                    slot: "fake_generator"
                 }
             }
         }
@@ -77,16 +76,11 @@ FocusScope {
                 visible: !root.view.nativeWithButton.showNativeBeforeGenerate
                 view: root.view
             }
-            Loader {
+            NativeAdSlot {
                 width: parent.width
-                active: root.view.afterButtonCard !== null
-                sourceComponent: NativeAdCard { view: root.view.afterButtonCard }
+                slot: "identity_after_button"
             }
-            Loader {
-                width: parent.width
-                active: root.view.banner !== null
-                sourceComponent: AdBanner { banner: root.view.banner }
-            }
+            AnchoredBanner { width: parent.width }
         }
     }
     Component {

@@ -1,0 +1,104 @@
+import QtQuick
+import QtWebEngine
+import Orl.Web
+
+// A mail's page, transparent over what lies behind it. What a page may ask a browser for, it is refused.
+Item {
+    id: root
+    property string page
+    property bool withheld: false
+    readonly property string destination: web.destination !== "" ? web.destination : hovered
+    readonly property alias loading: view.loading
+    readonly property url url: view.url
+    property string hovered
+
+    onPageChanged: show()
+    onWithheldChanged: show()
+    Component.onCompleted: show()
+
+    function show() {
+        hovered = "";
+        web.withheld = withheld;
+        web.page = page;
+        view.url = web.address;
+    }
+
+    MailWeb { id: web }
+
+    WebEngineView {
+        id: view
+        objectName: "mailView"
+        anchors.fill: parent
+        profile: web.profile
+        backgroundColor: "transparent"
+        settings {
+            // A cleaned mail has no scripts; a page that was gone to may have its own.
+            javascriptEnabled: !root.withheld || web.destination !== "" || !root.onMail
+            javascriptCanOpenWindows: false
+            javascriptCanAccessClipboard: false
+            javascriptCanPaste: false
+            localContentCanAccessFileUrls: false
+            localContentCanAccessRemoteUrls: false
+            allowRunningInsecureContent: false
+            allowGeolocationOnInsecureOrigins: false
+            autoLoadIconsForPage: false
+            touchIconsEnabled: false
+            dnsPrefetchEnabled: false
+            hyperlinkAuditingEnabled: false
+            pluginsEnabled: false
+            pdfViewerEnabled: false
+            fullScreenSupportEnabled: false
+            screenCaptureEnabled: false
+            webRTCPublicInterfacesOnly: true
+            playbackRequiresUserGesture: true
+            focusOnNavigationEnabled: false
+            navigateOnDropEnabled: false
+        }
+
+        onNavigationRequested: request => {
+            if (web.allows(request.url, request.navigationType, request.isMainFrame)) request.accept();
+            else request.reject();
+        }
+        // No window is opened; a tap that wanted one is followed here.
+        onNewWindowRequested: request => {
+            if (request.userInitiated && web.allows(request.requestedUrl, WebEngineView.LinkClickedNavigation, true))
+                view.url = request.requestedUrl;
+        }
+        onLoadingChanged: info => {
+            if (info.status !== WebEngineView.LoadStartedStatus) web.loadEnded();
+        }
+        onLinkHovered: url => root.hovered = url.toString() === "" ? "" : web.shown(url)
+
+        onFeaturePermissionRequested: (origin, feature) => view.grantFeaturePermission(origin, feature, false)
+        onCertificateError: error => error.rejectCertificate()
+        onSelectClientCertificate: selection => selection.selectNone()
+        onContextMenuRequested: request => request.accepted = true
+        onAuthenticationDialogRequested: request => {
+            request.accepted = true;
+            request.dialogReject();
+        }
+        onJavaScriptDialogRequested: request => {
+            request.accepted = true;
+            request.dialogReject();
+        }
+        onColorDialogRequested: request => {
+            request.accepted = true;
+            request.dialogReject();
+        }
+        onFileDialogRequested: request => {
+            request.accepted = true;
+            request.dialogReject();
+        }
+        onTooltipRequested: request => request.accepted = true
+        onQuotaRequested: request => request.reject()
+        onRegisterProtocolHandlerRequested: request => request.reject()
+        onFileSystemAccessRequested: request => request.reject()
+        onFullScreenRequested: request => request.reject()
+    }
+    readonly property bool onMail: view.url.toString() === web.address.toString()
+
+    Connections {
+        target: web.profile
+        function onDownloadRequested(download) { download.cancel(); }
+    }
+}
