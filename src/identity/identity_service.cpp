@@ -2,10 +2,10 @@
 
 #include "platform/clock.h"
 #include "platform/console.h"
-#include "platform/random_source.h"
 #include "platform/url_reader.h"
 
 #include <QDateTime>
+#include <QRandomGenerator>
 #include <QUuid>
 
 #include <array>
@@ -18,20 +18,20 @@ namespace {
 
 /// 0 <= result < bound, without the bias of a remainder: the high word of the product, where draws whose low
 /// word falls into the incomplete last stretch are made again.
-std::size_t drawBelow(RandomSource &random, quint64 bound) {
+std::size_t drawBelow(const std::function<quint64()> &word, quint64 bound) {
     const quint64 rejected = (0 - bound) % bound; // 2^64 mod bound
     for (;;) {
         __extension__ using Product = unsigned __int128;
-        const Product product = Product(random.word()) * bound;
+        const Product product = Product(word()) * bound;
         if (static_cast<quint64>(product) >= rejected) return static_cast<std::size_t>(product >> 64);
     }
 }
 
-FakeGender resolved(RandomSource &random, FakeGender gender) {
+FakeGender resolved(const std::function<quint64()> &word, FakeGender gender) {
     if (gender != FakeGender::Random) return gender;
     using enum FakeGender;
     static constexpr std::array urn{Male, Male, Male, Female, Female, Female};
-    return urn[drawBelow(random, urn.size())];
+    return urn[drawBelow(word, urn.size())];
 }
 
 QString ageText(const Platform &platform, const QString &birthData) {
@@ -73,9 +73,13 @@ Result<FakeIdentity2> readIdentity(const Platform &platform, const QUrl &url) {
 
 } // namespace
 
+quint64 secureWord() {
+    return QRandomGenerator::system()->generate64();
+}
+
 IdentityPath identityPath(const Platform &platform, FakeGender gender, FakeNameSet nameSet,
-                          FakeCountry country) {
-    const FakeGender chosen = resolved(platform.random, gender);
+                          FakeCountry country, const std::function<quint64()> &word) {
+    const FakeGender chosen = resolved(word, gender);
     return {chosen,
             makeUrl(platform.endpoints.identityHost +
                     QStringLiteral("/%1-%2/%3").arg(rawValue(nameSet), rawValue(country), rawValue(chosen)))};

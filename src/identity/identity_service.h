@@ -17,10 +17,13 @@ struct IdentityPath {
     std::optional<QUrl> url;              ///< nothing where the host's address makes none
 };
 
+/// 64 bits of the system's secure source of chance. Any thread.
+quint64 secureWord();
+
 /// Draws the gender where it is left open, each with the same odds. A name set and a country are joined as
 /// they are, also where no picker offers the pair. Any thread.
 IdentityPath identityPath(const Platform &platform, FakeGender gender, FakeNameSet nameSet,
-                          FakeCountry country);
+                          FakeCountry country, const std::function<quint64()> &word = secureWord);
 
 using IdentityCompletion = std::function<void(const std::optional<FakeIdentity> &)>;
 

@@ -4,16 +4,13 @@
 
 namespace orl {
 
-/// Where chance comes from.
+/// Where chance comes from. Main thread.
 class RandomSource {
 public:
     virtual ~RandomSource() = default;
 
-    /// 0 <= result < bound, each equally likely; bound > 0. Main thread.
+    /// 0 <= result < bound, each equally likely; bound > 0.
     virtual int below(int bound) = 0;
-
-    /// 64 bits of the system's secure source. Any thread.
-    virtual quint64 word() { return QRandomGenerator::system()->generate64(); }
 };
 
 class SystemRandom final : public RandomSource {

@@ -1,7 +1,6 @@
 #include "identity/identity_service.h"
 #include "identity_phone.h"
 #include "platform/process.h"
-#include "support/played_ads.h"
 
 #include <QDateTime>
 #include <QSet>
@@ -22,7 +21,7 @@ struct IdentityServiceTest : testing::Test {
     }
 
     Platform platform() {
-        Platform made = phone.platform().with(random);
+        Platform made = phone.platform();
         made.endpoints.identityHost = host;
         return made;
     }
@@ -44,7 +43,6 @@ struct IdentityServiceTest : testing::Test {
     }
 
     PlayedPlatform phone;
-    PlayedRandom random;
     QString host = QStringLiteral("https://identity.example");
     int completions = 0;
     std::optional<FakeIdentity> result;
@@ -96,12 +94,16 @@ TEST_F(IdentityServiceTest, OpenGenderIsDrawnWithoutBias) {
         {"rejected in the middle", {quint64{1} << 63, 1}, FakeGender::Male},
     };
     for (const Case &row : cases) {
-        random.words = row.words;
+        std::deque<quint64> words = row.words;
         const IdentityPath path =
-            identityPath(platform(), FakeGender::Random, FakeNameSet::French, FakeCountry::Canada);
+            identityPath(platform(), FakeGender::Random, FakeNameSet::French, FakeCountry::Canada, [&words] {
+                const quint64 word = words.front();
+                words.pop_front();
+                return word;
+            });
         EXPECT_EQ(path.gender, row.gender) << row.name;
         EXPECT_EQ(path.url->path(), QStringLiteral("/french-canada/") + rawValue(row.gender)) << row.name;
-        EXPECT_TRUE(random.words.empty()) << row.name;
+        EXPECT_TRUE(words.empty()) << row.name;
     }
 }
 

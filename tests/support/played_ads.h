@@ -281,8 +281,7 @@ public:
 class PlayedRandom : public RandomSource {
 public:
     std::deque<int> draws;
-    std::vector<int> bounds;   ///< of each draw
-    std::deque<quint64> words; ///< and then 1
+    std::vector<int> bounds; ///< of each draw
 
     int below(int bound) override {
         bounds.push_back(bound);
@@ -290,13 +289,6 @@ public:
         const int draw = draws.front();
         draws.pop_front();
         return draw;
-    }
-
-    quint64 word() override {
-        if (words.empty()) return 1;
-        const quint64 word = words.front();
-        words.pop_front();
-        return word;
     }
 };
 
