@@ -1,4 +1,5 @@
 #include "app/application.h"
+#include "app/gallery_window.h"
 #include "demo/endpoints_in_force.h"
 #include "platform/qt/single_instance.h"
 
@@ -39,6 +40,8 @@ int main(int argc, char **argv) {
     QGuiApplication::setApplicationName(QStringLiteral("orl"));
     QGuiApplication::setDesktopFileName(QStringLiteral("orl"));
     QGuiApplication::setLayoutDirection(QLocale().textDirection());
+
+    if (line.options->gallery) return orl::runGallery();
 
     const QDBusConnection bus = QDBusConnection::sessionBus();
     // Asked for only where it is needed: the question alone prints a warning where there is no such folder.

@@ -21,6 +21,7 @@ struct Options {
     std::optional<ChosenNumber> choose;
     QString picture;           ///< empty: run as usual
     bool resetConsent = false; ///< ask again about tracking and advertising
+    bool gallery = false;      ///< show the components instead
 
     bool operator==(const Options &) const = default;
 };

@@ -9,6 +9,7 @@ namespace {
 
 NativeAdType typeOf(const QString &id) {
     if (id == QLatin1String("fake_generator")) return NativeAdType::IDENTITY_HOME;
+    if (id == QLatin1String("identity_after_button")) return NativeAdType::IDENTITY_AFTER_BUTTON;
     if (id.startsWith(QLatin1String("inside_chat_"))) return NativeAdType::INSIDE_CHAT;
     return NativeAdType::INSIDE_MESSAGES;
 }
@@ -47,6 +48,10 @@ NativeAdCardView *AdPlaces::nativeCard(QObject *place, const QString &id) {
 NativeAdView_XMARK *AdPlaces::homeCard(QObject *place) {
     return new NativeAdView_XMARK(process_, appVM_, {QStringLiteral("home"), NativeAdType::IN_HOME_SCREEN},
                                   place);
+}
+
+std::unique_ptr<NativeWithGenerateButton> AdPlaces::nativeWithGenerateButton() const {
+    return std::make_unique<NativeWithGenerateButton>(process_, appVM_);
 }
 
 } // namespace orl

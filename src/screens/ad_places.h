@@ -3,6 +3,7 @@
 #include "ads/black_banner.h"
 #include "ads/native_ad_card_view.h"
 #include "ads/native_ad_view_xmark.h"
+#include "ads/native_with_generate_button.h"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
@@ -32,6 +33,8 @@ public:
     Q_INVOKABLE orl::NativeAdCardView *nativeCard(QObject *place, const QString &id);
     /// The card above the tabs.
     Q_INVOKABLE orl::NativeAdView_XMARK *homeCard(QObject *place);
+    /// What may hold the button of the identity generator back.
+    std::unique_ptr<NativeWithGenerateButton> nativeWithGenerateButton() const;
 
 Q_SIGNALS:
     void nativeAdEnabledChanged();

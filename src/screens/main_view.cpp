@@ -35,6 +35,7 @@ MainView::MainView(Process &process, const AdPlaces &ads, RequestViewModel &requ
     : QObject(parent),
       request_(request),
       home_(process, ads, request, internet, copy),
+      fakeGenerator_(process, ads, request, internet, copy),
       settings_(process, request, internet, copy),
       selectedIndex_(rowOf(request.selectedTab())),
       tabs_({"label", "image"}) {
@@ -53,6 +54,7 @@ void MainView::followSelectedTab() {
     listTabs();
     Q_EMIT selectedIndexChanged();
     if (tabRows[size_t(row)].tab == Tab::home) home_.appear();
+    if (tabRows[size_t(row)].tab == Tab::fakeGenerator) fakeGenerator_.appear();
     if (tabRows[size_t(row)].tab == Tab::profile) settings_.appear();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "screens/fake_generator_view.h"
 #include "screens/home_view.h"
 #include "screens/settings_view.h"
 
@@ -13,6 +14,7 @@ class MainView : public QObject {
     Q_PROPERTY(orl::KeyedListModel *tabs READ tabs CONSTANT)
     Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY selectedIndexChanged)
     Q_PROPERTY(orl::HomeView *home READ home CONSTANT)
+    Q_PROPERTY(orl::FakeGeneratorView *fakeGenerator READ fakeGenerator CONSTANT)
     Q_PROPERTY(orl::SettingsView *settings READ settings CONSTANT)
 public:
     MainView(Process &process, const AdPlaces &ads, RequestViewModel &request, InternetViewModel &internet,
@@ -26,6 +28,7 @@ public:
     Q_INVOKABLE void select(int index);
 
     HomeView *home() { return &home_; }
+    FakeGeneratorView *fakeGenerator() { return &fakeGenerator_; }
     SettingsView *settings() { return &settings_; }
 
 Q_SIGNALS:
@@ -37,6 +40,7 @@ private:
 
     RequestViewModel &request_;
     HomeView home_;
+    FakeGeneratorView fakeGenerator_;
     SettingsView settings_;
     int selectedIndex_ = 0;
     KeyedListModel tabs_;

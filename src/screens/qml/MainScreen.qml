@@ -33,10 +33,7 @@ FocusScope {
         TabPage {
             index: 2
             selectedIndex: root.view.selectedIndex
-            sourceComponent: Unavailable {
-                title: "Identity"
-                sentence: "The identity service is not available in this build."
-            }
+            sourceComponent: FakeGeneratorScreen { view: root.view.fakeGenerator }
         }
         TabPage {
             index: 3
