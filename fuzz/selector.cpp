@@ -34,9 +34,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     if (all.size() > 80) return 0;
     for (const std::size_t at : {std::size_t(0), all.size() / 2}) {
         const Element root = all[at];
-        const auto found = attempt([&] { return root.select(query); });
         const auto expected = attempt([&] { return naive::select(*evaluator, root); });
-        fuzz::require(found == expected, "a selector finds what a naive walk finds", evaluator->toString());
+        for (int time = 0; time < 3; ++time) // the last time a page may have its answer ready
+            fuzz::require(attempt([&] { return root.select(query); }) == expected,
+                          "a selector finds what a naive walk finds", evaluator->toString());
     }
     return 0;
 }

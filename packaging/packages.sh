@@ -5,12 +5,13 @@ run_packages=(
     g++ cmake ninja-build ccache mold pkg-config git ca-certificates
     qt6-base-dev qt6-declarative-dev qt6-declarative-dev-tools qt6-httpserver-dev qt6-websockets-dev qt6-svg-dev
     qt6-webengine-dev
-    libgl-dev libvulkan-dev libsqlite3-dev libicu-dev libpsl-dev liburiparser-dev zlib1g-dev
+    libgl-dev libvulkan-dev libsqlite3-dev libicu-dev libpsl-dev liburiparser-dev zlib1g-dev libqrcodegencpp-dev
     bootstrap-icons iso-flags-svg
     # run
     qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript qml6-module-qtquick
     qml6-module-qtquick-controls qml6-module-qtquick-layouts qml6-module-qtquick-templates
-    qml6-module-qtquick-window qml6-module-qtquick-shapes qml6-module-qtwebengine libqt6webenginecore6-bin
+    qml6-module-qtquick-window qml6-module-qtquick-shapes qml6-module-qt-labs-qmlmodels qml6-module-qt-labs-lottieqt
+    qml6-module-qtwebengine libqt6webenginecore6-bin
     qt6-qpa-plugins qt6-wayland libqt6svg6
     fonts-noto-core fonts-noto-cjk fonts-noto-color-emoji
 )
@@ -18,7 +19,7 @@ run_packages=(
 test_packages=(
     libgtest-dev libgmock-dev qml6-module-qttest
     clang clang-format libclang-rt-14-dev
-    dbus xvfb at-spi2-core xdotool
+    dbus xvfb at-spi2-core xdotool zbar-tools
 )
 
 # ensure_packages NAME...: installs what is missing, and asks apt nothing where nothing is.

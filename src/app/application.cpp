@@ -1,10 +1,12 @@
 #include "app/application.h"
 
+#include "screens/ad_images.h"
 #include "screens/screens.h"
 
 #include <QDBusConnection>
 #include <QDesktopServices>
 #include <QGuiApplication>
+#include <QLocale>
 #include <QQuickWindow>
 #include <QStandardPaths>
 
@@ -37,13 +39,16 @@ Application::Application(const Options &options, const Endpoints &endpoints)
       notifications_({QStringLiteral("Orl"), QGuiApplication::desktopFileName(), soundFolder()}, base_.bundle,
                      QDBusConnection::sessionBus()),
       mailComposer_(base_.mainQueue, QDesktopServices::openUrl),
+      houseAds_(base_.with(browser_)),
+      tracking_(base_.store),
+      consent_(base_.mainQueue, base_.store, QLocale::territoryToCode(QLocale::system().territory())),
       background_(base_.clock, base_.mainQueue, scene_, {AppDelegate::fetchingKey, AppDelegate::cleaningKey}),
       storePages_(base_.endpoints.storeHost),
       reviewPrompt_(browser_, StoreLinks(base_).review),
-      process_(base_.with(notifications_, haptics_, pasteboard_, browser_, mailComposer_, reviewPrompt_,
-                          scene_, background_)),
+      process_(platform()),
       delegate_(process_),
       content_(process_, appearance_) {
+    if (options_.resetConsent) forgetConsent(base_.store);
     delegate_.didFinishLaunching();
     QObject::connect(&notifications_, &DesktopNotifications::chosen, &window_, &WindowScene::bringToFront);
     if (options_.choose) startChoice_ = std::make_unique<StartChoice>(content_.requestVM(), *options_.choose);
@@ -54,19 +59,39 @@ Application::~Application() {
     linux_.stop();
 }
 
+Platform Application::platform() {
+    const Platform desktop = base_.with(notifications_, haptics_, pasteboard_, browser_, mailComposer_,
+                                        reviewPrompt_, scene_, background_, device_);
+    return options_.picture.isEmpty() ? desktop.with(houseAds_, tracking_, consent_) : desktop;
+}
+
 int Application::run() {
     if (!show()) return 1;
     if (!options_.picture.isEmpty()) awaitPicture();
-    return QGuiApplication::exec();
+    setStage(true);
+    const int code = QGuiApplication::exec();
+    setStage(false);
+    return code;
 }
 
 bool Application::show() {
     prepareScreens(engine_, process_.platform());
-    engine_.setInitialProperties({{QStringLiteral("content"), QVariant::fromValue(&content_)},
-                                  {QStringLiteral("reviewPrompt"), QVariant::fromValue(&reviewPrompt_)}});
+    prepareAds(engine_, process_);
+    engine_.setInitialProperties(
+        {{QStringLiteral("content"), QVariant::fromValue(&content_)},
+         {QStringLiteral("reviewPrompt"), QVariant::fromValue(&reviewPrompt_)},
+         {QStringLiteral("fullScreenAd"), QVariant::fromValue(&fullScreenAd_)},
+         {QStringLiteral("trackingQuestion"), QVariant::fromValue(&tracking_.question())},
+         {QStringLiteral("consentQuestion"), QVariant::fromValue(&consent_.question())}});
     engine_.load(QUrl(QString::fromLatin1(mainWindow)));
     if (auto *window = qobject_cast<QWindow *>(engine_.rootObjects().value(0))) window_.follow(*window);
     return !engine_.rootObjects().isEmpty();
+}
+
+void Application::setStage(bool ready) {
+    houseAds_.stage().setReady(ready);
+    tracking_.question().setReady(ready);
+    consent_.question().setReady(ready);
 }
 
 void Application::awaitPicture() {

@@ -11,9 +11,13 @@
 #include "platform/qt/desktop_notifications.h"
 #include "platform/qt/desktop_ports.h"
 #include "platform/qt/feedback_haptics.h"
+#include "platform/qt/house_ads.h"
+#include "platform/qt/linux_device.h"
 #include "platform/qt/linux_platform.h"
+#include "platform/qt/stored_consent.h"
 #include "platform/queued_background_scheduler.h"
 #include "screens/content_view.h"
+#include "screens/full_screen_ad_view.h"
 #include "screens/review_prompt.h"
 
 #include <QQmlApplicationEngine>
@@ -41,7 +45,11 @@ public:
     void bringToFront(const QString &activationToken) { window_.bringToFront(activationToken); }
 
 private:
+    /// A picture is taken without a user who could answer a question, and without ads.
+    Platform platform();
     bool show();
+    /// Whether a window is there for questions and for ads over everything else.
+    void setStage(bool ready);
     void awaitPicture();
     void takePictureOnceComplete();
     void savePicture();
@@ -56,10 +64,15 @@ private:
     FeedbackHaptics haptics_;
     DesktopNotifications notifications_;
     DesktopMailComposer mailComposer_;
+    LinuxDevice device_;
+    HouseAds houseAds_;
+    StoredTracking tracking_;
+    StoredConsent consent_;
     QueuedBackgroundScheduler background_;
     StorePages storePages_;
     ReviewPrompt reviewPrompt_;
     Process process_;
+    FullScreenAdView fullScreenAd_{process_, houseAds_.stage()};
     AppDelegate delegate_;
     Appearance appearance_;
     DesktopAppearance desktop_{appearance_};

@@ -1,4 +1,5 @@
 #include "app/application.h"
+#include "app/gallery_window.h"
 #include "demo/endpoints_in_force.h"
 #include "platform/qt/single_instance.h"
 
@@ -42,6 +43,8 @@ int main(int argc, char **argv) {
     QGuiApplication::setDesktopFileName(QStringLiteral("orl"));
     QGuiApplication::setLayoutDirection(QLocale().textDirection());
 
+    if (line.options->gallery) return orl::runGallery();
+
     const QDBusConnection bus = QDBusConnection::sessionBus();
     // Asked for only where it is needed: the question alone prints a warning where there is no such folder.
     const QString runtimeFolder =
@@ -52,6 +55,8 @@ int main(int argc, char **argv) {
         if (const auto exitCode = endsHere(instance, activationToken)) {
             if (*exitCode == 0 && line.options->choose)
                 std::fputs("orl: it runs already; choose the number there\n", stderr);
+            if (*exitCode == 0 && line.options->resetConsent)
+                std::fputs("orl: it runs already; close it to be asked again\n", stderr);
             return *exitCode;
         }
     }

@@ -19,7 +19,9 @@ struct Options {
     QString endpointsFile; ///< empty: ORL_ENDPOINTS, or the constants of the build
     QString dataFolder;    ///< empty: the desktop's
     std::optional<ChosenNumber> choose;
-    QString picture; ///< empty: run as usual
+    QString picture;           ///< empty: run as usual
+    bool resetConsent = false; ///< ask again about tracking and advertising
+    bool gallery = false;      ///< show the components instead
 
     bool operator==(const Options &) const = default;
 };

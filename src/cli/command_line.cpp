@@ -29,6 +29,8 @@ constexpr std::array shapes{
     Shape{CommandLine::Command::Choose, "choose", 2, 2, "choose COUNTRY NUMBER"},
     Shape{CommandLine::Command::Wait, "wait", 2, 2, "wait COUNTRY NUMBER [--code] [--timeout SECONDS]"},
     Shape{CommandLine::Command::Mail, "mail", 1, 3, mailUsage},
+    Shape{CommandLine::Command::Identity, "identity", 0, 0,
+          "identity [--gender GENDER] [--name-set NAMES] [--country COUNTRY]"},
 };
 
 const Shape *shapeOf(const QString &name) {
@@ -53,6 +55,8 @@ QString misplacedOption(const CommandLine &line, bool hasTimeout) {
         return QStringLiteral("--text goes with mail ADDRESS show only");
     if (!line.dataFolder.isEmpty() && !line.usesData())
         return QStringLiteral("--data goes with history and choose only");
+    if (!(line.gender + line.nameSet + line.country).isEmpty() && line.command != Command::Identity)
+        return QStringLiteral("--gender, --name-set and --country go with identity only");
     return {};
 }
 
@@ -83,6 +87,9 @@ Result<CommandLine> CommandLine::parse(const QStringList &arguments) {
                        {QStringLiteral("text"), {}},
                        {QStringLiteral("timeout"), {}, QStringLiteral("SECONDS")},
                        {QStringLiteral("data"), {}, QStringLiteral("FOLDER")},
+                       {QStringLiteral("gender"), {}, QStringLiteral("GENDER")},
+                       {QStringLiteral("name-set"), {}, QStringLiteral("NAMES")},
+                       {QStringLiteral("country"), {}, QStringLiteral("COUNTRY")},
                        {{QStringLiteral("help"), QStringLiteral("h")}, {}},
                        {QStringLiteral("version"), {}},
                        {QStringLiteral("endpoints"), {}, QStringLiteral("FILE")}});
@@ -93,6 +100,9 @@ Result<CommandLine> CommandLine::parse(const QStringList &arguments) {
     line.watch = parser.isSet(QStringLiteral("watch"));
     line.code = parser.isSet(QStringLiteral("code"));
     line.text = parser.isSet(QStringLiteral("text"));
+    line.gender = parser.value(QStringLiteral("gender"));
+    line.nameSet = parser.value(QStringLiteral("name-set"));
+    line.country = parser.value(QStringLiteral("country"));
     line.dataFolder = parser.value(QStringLiteral("data"));
     line.endpointsFile = parser.value(QStringLiteral("endpoints"));
     line.arguments = parser.positionalArguments();
@@ -146,6 +156,12 @@ QString CommandLine::help() {
   mail ADDRESS wait            the next mail that arrives; earlier ones do not count
       --code, --timeout        as for wait; the code may be in the subject
 
+  identity                     a made-up person
+      --gender GENDER          male or female; random if left open
+      --name-set NAMES         whose names, such as english or japanese
+      --country COUNTRY        where the person lives, such as united-states
+
+  qr TEXT                      a text as a QR code: orl-cli qr --help
   html COMMAND                 the document engine for files of your own: orl-cli html --help
 
   --json                       JSON instead of text: one list, with --watch one object per line

@@ -26,7 +26,8 @@ struct CommandLine {
         Wait,
         Mail,
         MailShow,
-        MailWait
+        MailWait,
+        Identity
     };
 
     Command command = Command::Help;
@@ -36,6 +37,7 @@ struct CommandLine {
     bool code = false;
     bool text = false;                           ///< of MailShow
     std::optional<std::chrono::seconds> timeout; ///< of the waits; nothing: as long as it takes
+    QString gender, nameSet, country;            ///< of Identity, as typed
     QString dataFolder;                          ///< of History and Choose; empty: the application's own
     QString endpointsFile;                       ///< empty: the ones of the build
 

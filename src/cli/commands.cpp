@@ -1,5 +1,6 @@
 #include "cli/commands.h"
 
+#include "cli/identity_command.h"
 #include "cli/port_watch.h"
 #include "numbers/moments.h"
 #include "numbers/text_helpers.h"
@@ -107,6 +108,8 @@ void Commands::run(const CommandLine &line, Finished finished) {
     }
     // What was chosen is known without any host.
     if (line_.command == CommandLine::Command::History) return showHistory();
+    if (line_.command == CommandLine::Command::Identity)
+        return runIdentityCommand(process_, line_, output_, [this](ExitCode code) { finish(code); });
     // The recipe first: pages read before it arrives would be read by the compiled one.
     config_ = std::make_unique<AppConfigViewModel>(process_);
     idle_.whenIdle([this] {
@@ -123,6 +126,7 @@ void Commands::start() {
     case CommandLine::Command::Wait: return waitForMessage();
     case CommandLine::Command::Choose: return chooseNumber();
     case CommandLine::Command::History:
+    case CommandLine::Command::Identity:
     case CommandLine::Command::Mail:
     case CommandLine::Command::MailShow:
     case CommandLine::Command::MailWait:

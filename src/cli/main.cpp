@@ -2,6 +2,7 @@
 #include "cli/html_command.h"
 #include "cli/mail_command.h"
 #include "cli/port_watch.h"
+#include "cli/qr_command.h"
 #include "demo/endpoints_in_force.h"
 #include "platform/qt/linux_platform.h"
 
@@ -86,6 +87,11 @@ int main(int argc, char **argv) {
 
     const QStringList typed = QCoreApplication::arguments();
     if (typed.value(1) == QLatin1String("html")) return runHtml(typed.mid(2));
+    if (typed.value(1) == QLatin1String("qr")) {
+        return int(runQrCommand(
+            typed.mid(2), [](const QString &result) { printLine(stdout, result); },
+            [](const QString &notice) { printLine(stderr, QStringLiteral("orl-cli: ") + notice); }));
+    }
 
     const Result<CommandLine> line = CommandLine::parse(typed);
     if (!line.ok())

@@ -2,6 +2,7 @@
 
 #include "advertising.h"
 #include "first_website.h"
+#include "identities.h"
 #include "legal_pages.h"
 #include "mail/mailboxes.h"
 #include "second_website.h"
@@ -43,12 +44,13 @@ struct DemoHost::World {
           configuration(catalogue),
           first(catalogue, seed),
           second(catalogue, seed),
-          mail(seed) {}
+          mail(seed),
+          identities(seed) {}
 
     demo::Server::Services services() const {
         return {{u"config"_s, &configuration}, {u"first"_s, &first},
                 {u"second"_s, &second},        {u"mail"_s, &mail},
-                {u"identity"_s, &unserved},    {u"ads"_s, &advertising},
+                {u"identity"_s, &identities},  {u"ads"_s, &advertising},
                 {u"legal"_s, &legal},          {u"store"_s, &unserved},
                 {u"probe"_s, &probe}};
     }
@@ -60,6 +62,7 @@ struct DemoHost::World {
     demo::Mailboxes mail;
     demo::LegalPages legal;
     demo::Advertising advertising;
+    demo::Identities identities;
     Unserved unserved;
     Probe probe;
     demo::FaultTable faults;

@@ -4,6 +4,7 @@
 #include "ads/native_ad_card_view.h"
 #include "ads/native_ad_view_xmark.h"
 #include "ads/native_with_generate_button.h"
+#include "platform/qt/stored_consent.h"
 
 #include <QtQml/qqml.h>
 
@@ -70,6 +71,13 @@ struct NativeWithGenerateButtonForQml {
     QML_FOREIGN(orl::NativeWithGenerateButton)
     QML_NAMED_ELEMENT(NativeWithGenerateButton)
     QML_UNCREATABLE("made by the identity generator")
+};
+
+struct StoredQuestionForQml {
+    Q_GADGET
+    QML_FOREIGN(orl::StoredQuestion)
+    QML_NAMED_ELEMENT(StoredQuestion)
+    QML_UNCREATABLE("made by what asks")
 };
 
 } // namespace orl

@@ -4,6 +4,7 @@
 #include "config/internet_view_model.h"
 #include "mail/mail_service_view_model.h"
 #include "numbers/request_view_model.h"
+#include "screens/ad_places.h"
 #include "screens/appearance.h"
 #include "screens/conversation_view.h"
 #include "screens/copy_view_model.h"
@@ -21,6 +22,7 @@ class ContentView : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
     Q_PROPERTY(orl::Appearance *appearance READ appearance CONSTANT)
+    Q_PROPERTY(orl::AdPlaces *adPlaces READ adPlaces CONSTANT)
     Q_PROPERTY(orl::CopyViewModel *copyVM READ copyVM CONSTANT)
     Q_PROPERTY(bool hasCountry READ hasCountry NOTIFY rootChanged)
     Q_PROPERTY(orl::ChoosePhoneView *chooser READ chooser NOTIFY rootChanged)
@@ -38,6 +40,7 @@ public:
     RequestViewModel &requestVM() { return requestVM_; }
     AppConfigViewModel &appConfigVM() { return appConfigVM_; }
     MailServiceViewModel &mailServiceVM() { return mailServiceVM_; }
+    AdPlaces *adPlaces() { return &adPlaces_; }
 
     /// With a country the tabs are the root, without one the first-run chooser.
     bool hasCountry() const { return main_ != nullptr; }
@@ -80,6 +83,7 @@ private:
     TMailAlertViewModel tMailAlertVM_;
     MailServiceViewModel mailServiceVM_;
     AppConfigViewModel appConfigVM_;
+    AdPlaces adPlaces_;
     SplashView splash_;
     ConversationView conversation_;
     FullSwipePopHelper swipe_;

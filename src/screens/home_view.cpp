@@ -6,6 +6,7 @@
 #include "numbers/request_view_model.h"
 #include "numbers/text_helpers.h"
 #include "platform/clock.h"
+#include "screens/ad_places.h"
 #include "screens/copy_view_model.h"
 #include "screens/gradient_ink.h"
 #include "screens/message_text.h"
@@ -29,10 +30,11 @@ GradientInk cardInkOn() {
 
 } // namespace
 
-HomeView::HomeView(Process &process, RequestViewModel &request, InternetViewModel &internet,
-                   CopyViewModel &copy, QObject *parent)
+HomeView::HomeView(Process &process, const AdPlaces &ads, RequestViewModel &request,
+                   InternetViewModel &internet, CopyViewModel &copy, QObject *parent)
     : QObject(parent),
       process_(process),
+      ads_(ads),
       request_(request),
       internet_(internet),
       copy_(copy),
@@ -52,6 +54,7 @@ HomeView::HomeView(Process &process, RequestViewModel &request, InternetViewMode
     connect(&request_, &RequestViewModel::currentCountryNumbersChanged, this, &HomeView::showSimilar);
     connect(&request_, &RequestViewModel::lastFetchSucceededAtChanged, this, &HomeView::noteFetch);
     connect(&internet_, &InternetViewModel::isConnectedChanged, this, &HomeView::stateChanged);
+    connect(&ads_, &AdPlaces::nativeAdEnabledChanged, this, &HomeView::showMessages);
     connect(&choice_, &NumberChoice::chosen, this,
             [this] { process_.shared<PopUpAd>().showInterstitial(1); });
     timer_ = process_.platform().mainQueue.every(tick, [this] { fetchOnTick(); });
@@ -179,13 +182,14 @@ void HomeView::setIsOffline(bool offline) {
 
 void HomeView::showMessages() {
     listSenders();
-    messages_.show(request_.messages());
+    messages_.show(request_.messages(), ads_.nativeAdEnabled());
     Q_EMIT stateChanged();
 }
 
 /// Senders outlive the messages they came with; without messages nothing is listed.
 void HomeView::listSenders() {
-    senders_.show(request_.messages().isEmpty() ? QList<SMSSender>() : request_.senders());
+    senders_.show(request_.messages().isEmpty() ? QList<SMSSender>() : request_.senders(),
+                  ads_.nativeAdEnabled());
     messages_.facesChanged();
 }
 
@@ -203,8 +207,9 @@ void HomeView::tapExport(const QString &entry) {
 }
 
 void HomeView::tapSender(int row) {
-    if (row < 0 || row >= senders_.count()) return;
-    request_.setSelectedConversation(senders_.at(row));
+    const SMSSender *sender = row >= 0 && row < senders_.count() ? senders_.at(row) : nullptr;
+    if (!sender) return;
+    request_.setSelectedConversation(*sender);
     request_.setConversation_isPresented(true);
     process_.shared<PopUpAd>().showInterstitial(1);
 }

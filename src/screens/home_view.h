@@ -6,6 +6,7 @@
 
 namespace orl {
 
+class AdPlaces;
 class CopyViewModel;
 
 /// The first tab: the card of the current number above its messages.
@@ -41,8 +42,8 @@ public:
     static constexpr double fetchIsOldAfter = 60; ///< seconds
     static constexpr std::chrono::seconds inlineBannerAfter{3};
 
-    HomeView(Process &process, RequestViewModel &request, InternetViewModel &internet, CopyViewModel &copy,
-             QObject *parent = nullptr);
+    HomeView(Process &process, const AdPlaces &ads, RequestViewModel &request, InternetViewModel &internet,
+             CopyViewModel &copy, QObject *parent = nullptr);
     ~HomeView() override;
 
     // The number card
@@ -121,6 +122,7 @@ private:
     void showSimilar();
 
     Process &process_;
+    const AdPlaces &ads_;
     RequestViewModel &request_;
     InternetViewModel &internet_;
     CopyViewModel &copy_;

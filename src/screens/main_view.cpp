@@ -30,13 +30,14 @@ int rowOf(Tab tab) {
 
 } // namespace
 
-MainView::MainView(Process &process, RequestViewModel &request, InternetViewModel &internet,
-                   CopyViewModel &copy, MailServiceViewModel &mailService, TMailAlertViewModel &mailAlert,
-                   AppConfigViewModel &appVM, QObject *parent)
+MainView::MainView(Process &process, const AdPlaces &ads, RequestViewModel &request,
+                   InternetViewModel &internet, CopyViewModel &copy, MailServiceViewModel &mailService,
+                   TMailAlertViewModel &mailAlert, AppConfigViewModel &appVM, QObject *parent)
     : QObject(parent),
       request_(request),
-      home_(process, request, internet, copy),
+      home_(process, ads, request, internet, copy),
       mail_(process, mailService, internet, copy, mailAlert, appVM),
+      fakeGenerator_(process, ads, request, internet, copy),
       settings_(process, request, internet, copy),
       selectedIndex_(rowOf(request.selectedTab())),
       tabs_({"label", "image"}) {
@@ -58,6 +59,7 @@ void MainView::followSelectedTab() {
     Q_EMIT selectedIndexChanged();
     if (tabRows[size_t(row)].tab == Tab::home) home_.appear();
     if (tabRows[size_t(row)].tab == Tab::tMail) mail_.appear();
+    if (tabRows[size_t(row)].tab == Tab::fakeGenerator) fakeGenerator_.appear();
     if (tabRows[size_t(row)].tab == Tab::profile) settings_.appear();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "screens/fake_generator_view.h"
 #include "screens/home_view.h"
 #include "screens/mail/t_mail_view.h"
 #include "screens/settings_view.h"
@@ -15,11 +16,12 @@ class MainView : public QObject {
     Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY selectedIndexChanged)
     Q_PROPERTY(orl::HomeView *home READ home CONSTANT)
     Q_PROPERTY(orl::TMailView *mail READ mail CONSTANT)
+    Q_PROPERTY(orl::FakeGeneratorView *fakeGenerator READ fakeGenerator CONSTANT)
     Q_PROPERTY(orl::SettingsView *settings READ settings CONSTANT)
 public:
-    MainView(Process &process, RequestViewModel &request, InternetViewModel &internet, CopyViewModel &copy,
-             MailServiceViewModel &mailService, TMailAlertViewModel &mailAlert, AppConfigViewModel &appVM,
-             QObject *parent = nullptr);
+    MainView(Process &process, const AdPlaces &ads, RequestViewModel &request, InternetViewModel &internet,
+             CopyViewModel &copy, MailServiceViewModel &mailService, TMailAlertViewModel &mailAlert,
+             AppConfigViewModel &appVM, QObject *parent = nullptr);
 
     /// In display order. Roles "label" and "image" (a symbol).
     KeyedListModel *tabs() { return &tabs_; }
@@ -30,6 +32,7 @@ public:
 
     HomeView *home() { return &home_; }
     TMailView *mail() { return &mail_; }
+    FakeGeneratorView *fakeGenerator() { return &fakeGenerator_; }
     SettingsView *settings() { return &settings_; }
 
 Q_SIGNALS:
@@ -42,6 +45,7 @@ private:
     RequestViewModel &request_;
     HomeView home_;
     TMailView mail_;
+    FakeGeneratorView fakeGenerator_;
     SettingsView settings_;
     int selectedIndex_ = 0;
     KeyedListModel tabs_;

@@ -8,7 +8,7 @@ namespace orl {
 
 namespace {
 
-enum Role { Sender, Content, Age, Exports, Face };
+enum Role { Sender, Content, Age, Exports, Face, Slot };
 
 /// Every fetch makes new records of the messages on the page; this tells which of them are the same message.
 QString keyOf(const Message &message) {
@@ -19,16 +19,16 @@ QString keyOf(const Message &message) {
 } // namespace
 
 MessageCards::MessageCards(Process &process, Listed listed, QObject *parent)
-    : KeyedRows({"sender", "content", "age", "exports", "face"}, parent),
+    : KeyedRows({"sender", "content", "age", "exports", "face", "slot"}, parent),
       process_(process),
       listed_(std::move(listed)) {}
 
-void MessageCards::show(const QList<Message> &messages) {
+void MessageCards::show(const QList<Message> &messages, bool withAds) {
     const double now = process_.platform().clock.now();
     QStringList keys;
     QList<MessageCardView> cards;
     for (const Message &message : messages) {
-        if (isAd(message)) continue;
+        if (isAd(message) && !withAds) continue;
         keys << keyOf(message);
         cards << MessageCardView(message, now);
     }
@@ -59,6 +59,7 @@ QVariant MessageCards::shown(const QString &key, qsizetype role) const {
     case Age: return card->age(process_.platform().clock.now());
     case Exports: return card->messagesExports();
     case Face: return QVariant::fromValue(avatarFace(listed_(card->message().sender)));
+    case Slot: return isAd(card->message()) ? QStringLiteral("inside_messages") : QString();
     }
     return {};
 }

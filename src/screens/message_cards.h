@@ -27,9 +27,9 @@ public:
 
     MessageCards(Process &process, Listed listed, QObject *parent = nullptr);
 
-    /// Shows these messages but for the places of ads. All cards appear now: their ages are true again and
-    /// their ticks begin.
-    void show(const QList<Message> &messages);
+    /// Shows these messages; the places of ads only where `withAds`. All cards appear now: their ages are
+    /// true again and their ticks begin.
+    void show(const QList<Message> &messages, bool withAds);
 
     /// The senders were worked out anew, and with them the faces.
     void facesChanged() { changed({"face"}); }

@@ -7,26 +7,38 @@ namespace orl {
 
 namespace {
 
-enum Role { Name, Content, Time, Unseen, Face };
+enum Role { Name, Content, Time, Unseen, Face, Slot };
+
+/// An ad's row is known by its id, which no sender's name begins like.
+QString keyOf(const SMSSender &sender) {
+    return isAd(sender) ? QChar(0x1e) + sender.id : sender.name;
+}
 
 } // namespace
 
 SenderCards::SenderCards(const RequestViewModel &request, QObject *parent)
-    : KeyedRows({"name", "content", "time", "unseen", "face"}, parent), request_(request) {}
+    : KeyedRows({"name", "content", "time", "unseen", "face", "slot"}, parent), request_(request) {}
 
-void SenderCards::show(const QList<SMSSender> &senders) {
+void SenderCards::show(const QList<SMSSender> &senders, bool withAds) {
     QStringList keys;
     QHash<QString, qsizetype> places;
     for (qsizetype i = 0; i < senders.size(); ++i) {
         const SMSSender &sender = senders[i];
-        if (isAd(sender) || sender.messages.isEmpty() || places.contains(sender.name)) continue;
-        keys << sender.name;
-        places.insert(sender.name, i);
+        if (isAd(sender) ? !withAds : sender.messages.isEmpty()) continue;
+        const QString key = keyOf(sender);
+        if (places.contains(key)) continue;
+        keys << key;
+        places.insert(key, i);
     }
     senders_ = senders;
     places_ = places;
     arrange(keys);
     changed({"content", "time", "unseen", "face"});
+}
+
+const SMSSender *SenderCards::at(int row) const {
+    const SMSSender *sender = named(key(row));
+    return sender && !isAd(*sender) ? sender : nullptr;
 }
 
 const SMSSender *SenderCards::named(const QString &name) const {
@@ -37,6 +49,7 @@ const SMSSender *SenderCards::named(const QString &name) const {
 QVariant SenderCards::shown(const QString &key, qsizetype role) const {
     const SMSSender *sender = named(key);
     if (!sender) return {};
+    if (isAd(*sender)) return Role(role) == Slot ? QVariant(sender->id) : QVariant();
     const Message &last = sender->messages.front();
     switch (Role(role)) {
     case Name: return sender->name;
@@ -47,6 +60,7 @@ QVariant SenderCards::shown(const QString &key, qsizetype role) const {
         return unseen ? QString::number(*unseen) : QString();
     }
     case Face: return QVariant::fromValue(avatarFace(*sender));
+    case Slot: return QString();
     }
     return {};
 }

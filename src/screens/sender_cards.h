@@ -15,10 +15,11 @@ class SenderCards : public orl::KeyedRows {
 public:
     explicit SenderCards(const RequestViewModel &request, QObject *parent = nullptr);
 
-    /// Shows these senders but for the places of ads.
-    void show(const QList<SMSSender> &senders);
+    /// Shows these senders; the places of ads only where `withAds`.
+    void show(const QList<SMSSender> &senders, bool withAds);
 
-    const SMSSender &at(int row) const { return *named(key(row)); }
+    /// Null for the place of an ad.
+    const SMSSender *at(int row) const;
 
     /// The sender of this name as the list has it; null where it is not listed.
     const SMSSender *named(const QString &name) const;
@@ -29,7 +30,8 @@ protected:
 private:
     const RequestViewModel &request_;
     QList<SMSSender> senders_;
-    QHash<QString, qsizetype> places_; ///< in senders_, by name, which is unique among senders
+    QHash<QString, qsizetype>
+        places_; ///< in senders_, by name, which is unique among senders; ads by their id
 };
 
 } // namespace orl

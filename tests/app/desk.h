@@ -47,6 +47,8 @@ public:
 
     /// What a program needs to run here.
     QProcessEnvironment environment() const { return environment_; }
+    /// Of the programs that are started from now on; "de_DE.UTF-8".
+    void setLocale(const QString &locale) { environment_.insert(QStringLiteral("LC_ALL"), locale); }
 
     QDBusConnection accessibilityBus() const;
     PlayedPortal &portal() { return *portal_; }

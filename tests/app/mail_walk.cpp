@@ -74,16 +74,16 @@ void MailWalk::watchMails() {
 void MailWalk::readMails() {
     ASSERT_NO_FATAL_FAILURE(
         openMail(QStringLiteral("Welcome to your inbox"), QStringLiteral("32-mail-html")));
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Private mode")), "private mode"));
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return wait(named(QStringLiteral("Private mode")))->isChecked(); }, 10000));
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Private mode")), "private mode"));
     ASSERT_NO_FATAL_FAILURE(closeMail());
     ASSERT_NO_FATAL_FAILURE(
         openMail(QStringLiteral("Photos of Sunday"), QStringLiteral("33-mail-attachments")));
     ASSERT_NO_FATAL_FAILURE(press(beginning(QStringLiteral("Harbour at noon.JPG")), "an attachment"));
     EXPECT_TRUE(wait(named(QStringLiteral("Attached picture"))));
     lookAtRest(QStringLiteral("34-mail-attachment"));
-    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Private mode")), "private mode"));
-    EXPECT_TRUE(
-        QTest::qWaitFor([&] { return wait(named(QStringLiteral("Private mode")))->isChecked(); }, 10000));
-    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Private mode")), "private mode"));
     ASSERT_NO_FATAL_FAILURE(closeMail());
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return wait(row(QStringLiteral("Welcome")))->description() == QStringLiteral("Read"); }, 20000))

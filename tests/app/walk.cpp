@@ -221,8 +221,9 @@ void Walk::limit() {
     demo::ConfigurationValues values;
     values.rewardAdEnabled = true;
     host.setConfiguration(values);
+    host.setFault(QStringLiteral("/ads"), Fault::Kind::Dead);
     ASSERT_TRUE(host.start());
-    startProgramWith(host);
+    startProgram(servedBy(host));
     ASSERT_TRUE(wait(card()));
 
     const Fits alert = beginning(QStringLiteral("LIMIT REACHED"));
@@ -232,10 +233,32 @@ void Walk::limit() {
     ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Cancel")), "the way out of the alert"));
     ASSERT_TRUE(gone(alert));
 
+    // Without a video the user is not held back.
     ASSERT_NO_FATAL_FAILURE(press(named(chosen), "the number once more"));
     ASSERT_TRUE(wait(alert)) << "the limit did not last";
     ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Watch")), "the video"));
-    EXPECT_TRUE(gone(alert));
+    ASSERT_TRUE(gone(alert));
+    ASSERT_NO_FATAL_FAILURE(press(named(chosen), "the number the third time"));
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Choose this Number")), "the confirmation"));
+    ASSERT_TRUE(wait(card())) << "the number did not change";
+    killProgram();
+
+    host.clearFaults();
+    startProgram(servedBy(host));
+    ASSERT_TRUE(wait(card()));
+    ASSERT_NO_FATAL_FAILURE(tapOtherNumber());
+    ASSERT_TRUE(wait(alert)) << "the choice without a video did not count";
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Watch")), "the video"));
+    ASSERT_TRUE(wait(beginning(QStringLiteral("Reward in ")))) << "no video";
+    lookAround(QStringLiteral("21-video"));
+    ASSERT_TRUE(wait(named(QStringLiteral("Reward earned")))) << "no reward";
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Close")), "the way out of the video"));
+    // Two more choices: the video was worth more than one.
+    ASSERT_NO_FATAL_FAILURE(press(named(chosen), "the number after the video"));
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Choose this Number")), "its confirmation"));
+    ASSERT_TRUE(wait(card())) << "the number did not change after the video";
+    ASSERT_NO_FATAL_FAILURE(tapOtherNumber());
+    EXPECT_TRUE(wait(named(QStringLiteral("Choose this Number")))) << "the video refilled too little";
     killProgram();
 }
 

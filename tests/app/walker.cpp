@@ -24,6 +24,7 @@ namespace orl {
 
 void Walker::SetUp() {
     ASSERT_EQ(desk.problem().toStdString(), "");
+    ASSERT_TRUE(quietHost.start());
     QDir().mkpath(walkSetup.pictureFolder);
 }
 
@@ -34,25 +35,45 @@ void Walker::TearDown() {
         std::fprintf(stderr, "  %s \"%s\"\n", qPrintable(control.role()), qPrintable(control.name()));
 }
 
-void Walker::startProgram(const QStringList &options) {
+void Walker::launch(const QStringList &options) {
     program = desk.start(walkSetup.program, QStringList{QStringLiteral("--data"), data.path()} + options);
     ASSERT_TRUE(QTest::qWaitFor([this] { return root().has_value(); }, 60000)) << "it never came to the bus";
-    // Nothing behind the splash can be used before it has gone; it is there ahead of the root screen.
-    const Fits splash = named(QStringLiteral("Virtual Phone Numbers"));
     const Fits rootScreen = [](const Accessible &control) {
         return control.name() == QStringLiteral("Tabs") ||
                control.name() == QStringLiteral("Phone Code or Country...");
     };
     ASSERT_TRUE(wait(rootScreen)) << "no screen came";
+}
+
+/// Nothing behind the splash can be used before it has gone; it is there ahead of the root screen.
+void Walker::waitForTheSplash() {
+    const Fits splash = named(QStringLiteral("Virtual Phone Numbers"));
     ASSERT_TRUE(QTest::qWaitFor([&] { return all(splash).isEmpty(); }, 60000)) << "the splash stays";
 }
 
-void Walker::startProgramWith(const DemoHost &host) {
+void Walker::startProgram(const QStringList &options) {
+    const bool served = options.contains(QStringLiteral("--endpoints"));
+    ASSERT_NO_FATAL_FAILURE(launch(served ? options : servedBy(quietHost) + options));
+    const Fits splash = named(QStringLiteral("Virtual Phone Numbers"));
+    const Fits question = [](const Accessible &control) {
+        return control.name() == QStringLiteral("Continue") ||
+               control.name() == QStringLiteral("Don't allow");
+    };
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] {
+            const QList<Accessible> asked = all(question);
+            if (!asked.isEmpty()) asked.first().press();
+            return all(splash).isEmpty();
+        },
+        60000))
+        << "the splash stays";
+}
+
+QStringList Walker::servedBy(const DemoHost &host) {
     const QString endpoints = data.filePath(QStringLiteral("endpoints"));
     QFile file(endpoints);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(endpointsFile(host.endpoints())) > 0);
-    file.close();
-    startProgram({QStringLiteral("--endpoints"), endpoints});
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(endpointsFile(host.endpoints())) > 0);
+    return {QStringLiteral("--endpoints"), endpoints};
 }
 
 void Walker::killProgram() {

@@ -30,9 +30,14 @@ protected:
     /// What a failed walk looked like at its end.
     void TearDown() override;
 
+    /// Until its window is there.
+    void launch(const QStringList &options = {});
+    /// Until it can be used, served without ads unless the options name a host. What it asks a new user is
+    /// answered with no.
     void startProgram(const QStringList &options = {});
-    /// Started already, it serves the program in the place of the one within.
-    void startProgramWith(const DemoHost &host);
+    /// The options that have the program served by this host, which has started, in the place of the one
+    /// within.
+    QStringList servedBy(const DemoHost &host);
 
     /// As when the phone's battery is taken out.
     void killProgram();
@@ -64,6 +69,8 @@ protected:
     /// The station in light and dark, large and small.
     void lookAround(const QString &station);
 
+    /// Waits until the splash has left the root screen to the user.
+    void waitForTheSplash();
     /// Waits until nothing fits any more.
     bool gone(const Fits &fits);
 
@@ -90,6 +97,7 @@ protected:
     static Fits code();
 
     Desk desk;
+    DemoHost quietHost; ///< has all advertising off
     QTemporaryDir data;
     std::unique_ptr<QProcess> program;
     QSize window{390, 844};

@@ -452,6 +452,85 @@ TEST(LifetimeTest, MoreHandlesThanANodeCounts) {
     EXPECT_EQ(p.outerHtml(), "<p>x</p>");
 }
 
+/// Lists as searches give them, and the same after each way in which a list may come about.
+std::vector<Elements> listsOf(const Element &root) {
+    Elements found = root.select("p, b");
+    Elements copied = found, moved = found, assigned, added = found;
+    Elements taken = std::move(moved);
+    assigned = root.select("i");
+    assigned = taken;
+    moved = assigned;
+    added.add(root.getElementsByTag("i").first());
+    return {std::move(found), copied, taken, assigned, moved, added, Elements(copied.array())};
+}
+
+TEST(LifetimeTest, AListKeepsItsElementsAndNotWhatIsAboveThem) {
+    std::vector<Elements> lists;
+    {
+        const Document document = page("<div><p>1<b>2</b></div><p>3<b>4<i></i></b></p>");
+        lists = listsOf(document);
+        for (const Elements &list : lists)
+            EXPECT_EQ(list.first().parent(), first(document, "div"));
+    }
+    for (const Elements &list : lists) {
+        EXPECT_EQ(Elements({list[0], list[1], list[2], list[3]}).text(), "12 2 34 4");
+        EXPECT_FALSE(list[0].parent());
+        EXPECT_EQ(list[1].parent(), list[0]);
+        EXPECT_EQ(list[3].parent(), list[2]);
+    }
+    EXPECT_EQ(lists.back(), lists.front());
+    const Element b = lists.front()[1];
+    lists.clear();
+    EXPECT_FALSE(b.parent());
+    EXPECT_EQ(b.text(), "2");
+}
+
+TEST(LifetimeTest, AListKeepsWhatLeavesTheTree) {
+    const Document document = page("<div><p>1<p>2<p>3</div>");
+    const Elements list = document.getElementsByTag("p"), copy = list;
+    for (const Element &p : list)
+        p.remove();
+    EXPECT_EQ(copy.text(), "1 2 3");
+    const Elements more = document.body().append("<b>4</b><b>5</b>").getElementsByTag("b");
+    document.body().empty();
+    EXPECT_EQ(more.text(), "4 5");
+    EXPECT_EQ(more[0].parent(), document.body());
+    const Elements below = more[1].html("<i>6</i>").select("i");
+    more.empty();
+    EXPECT_EQ(more.text() + below.text(), "6");
+    EXPECT_EQ(below.first().parent(), more[1]);
+    Element inner;
+    {
+        const Elements gone = document.body().html("<u><s>7</s></u>").select("u");
+        for (const Element &u : gone)
+            u.remove();
+        inner = gone[0].child(0);
+        EXPECT_EQ(inner.parent(), gone.begin()->child(0).parent());
+    }
+    EXPECT_FALSE(inner.parent());
+}
+
+TEST(LifetimeTest, ListsOutliveTheirTreesAndMergeWithThem) {
+    const std::size_t before = core::spaceInUse();
+    {
+        Elements from, to, loose;
+        {
+            const Document one = page("<p>1<p>2"), two = page("<b>3</b><b>4</b>");
+            from = one.select("p");
+            to = two.select("b");
+            loose = Element(Tag::valueOf("u"), "").text("5").getAllElements();
+            two.body().appendChild(from[1]);
+            EXPECT_EQ(from[1].parent(), two.body());
+        }
+        EXPECT_EQ(from.text() + to.text() + loose.text(), "1 23 45");
+        to = from;
+        from = loose;
+        EXPECT_EQ(to.text() + from.text(), "1 25");
+        EXPECT_EQ(Elements({to[0], from[0]}).select("*").text(), "1 5");
+    }
+    EXPECT_EQ(core::spaceInUse(), before);
+}
+
 TEST(LifetimeTest, AFormKeepsItsControls) {
     Document document = page("<form><input name=a><input name=b></form>");
     FormElement form = document.getElementsByTag("form").forms().at(0);

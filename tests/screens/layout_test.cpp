@@ -1,5 +1,10 @@
+#include "ads/native_ad_view_xmark.h"
+#include "demo/ad_picture.h"
+#include "platform/qt/stored_consent.h"
 #include "resting.h"
+#include "screens/ad_images.h"
 #include "screens/conversation_view.h"
+#include "screens/full_screen_ad_view.h"
 #include "screens/full_swipe_pop_helper.h"
 #include "screens/review_prompt.h"
 #include "screens/screens.h"
@@ -80,8 +85,12 @@ protected:
     }
 
     void showSplash() {
+        fullScreenAd_ = std::make_unique<FullScreenAdView>(*process, stage_);
         makeEngine({{QStringLiteral("content"), QVariant::fromValue(content.get())},
-                    {QStringLiteral("reviewPrompt"), QVariant::fromValue(&prompt_)}});
+                    {QStringLiteral("reviewPrompt"), QVariant::fromValue(&prompt_)},
+                    {QStringLiteral("fullScreenAd"), QVariant::fromValue(fullScreenAd_.get())},
+                    {QStringLiteral("trackingQuestion"), QVariant::fromValue(&question_)},
+                    {QStringLiteral("consentQuestion"), QVariant::fromValue(&consentQuestion_)}});
         engine_->load(QUrl(QString::fromLatin1(mainWindow)));
         takeWindow();
     }
@@ -96,6 +105,7 @@ protected:
     void makeEngine(const QVariantMap &properties) {
         engine_ = std::make_unique<QQmlApplicationEngine>();
         prepareScreens(*engine_, process->platform());
+        prepareAds(*engine_, *process);
         engine_->setInitialProperties(properties);
     }
 
@@ -192,9 +202,29 @@ private:
 
 protected:
     ReviewPrompt prompt_{browser, QUrl()};
+    AdStage stage_{phone.mainQueue};
+    StoredQuestion question_, consentQuestion_;
+    std::unique_ptr<FullScreenAdView> fullScreenAd_;
     std::unique_ptr<QQmlApplicationEngine> engine_;
     QQuickWindow *window_ = nullptr;
 };
+
+AdAssets richAd() {
+    return {.headline = QStringLiteral("Your city by bicycle"),
+            .body = QStringLiteral("Unlock one at any corner. The first half hour is on us."),
+            .callToAction = QStringLiteral("Ride"),
+            .advertiser = QStringLiteral("Harbour Bikes"),
+            .store = QStringLiteral("Phone store"),
+            .price = QStringLiteral("Free"),
+            .starRating = 4.5,
+            .icon = demo::adPicture(QStringLiteral("harbour"), QStringLiteral("icon")),
+            .media = {demo::adPicture(QStringLiteral("harbour"), QStringLiteral("tall"))}};
+}
+
+AdAssets poorAd() {
+    return {.headline = QStringLiteral("Tomatoes on the ninth floor"),
+            .icon = demo::adPicture(QStringLiteral("harbour"), QStringLiteral("icon"))};
+}
 
 const QList<Sms> lively{
     {QStringLiteral("Harbourly Pay"),
@@ -345,7 +375,7 @@ TEST_P(LayoutTest, HomeWithoutMessages) {
 
 TEST_P(LayoutTest, Start) {
     phone.bundle.infoValues[QStringLiteral("CFBundleDisplayName")] = QStringLiteral("Orl");
-    tracking.current = TrackingStatus::NotDetermined;
+    tracking.answer = TrackingStatus::NotDetermined;
     makeContent();
     showSplash();
     look("splash");
@@ -400,6 +430,67 @@ TEST_P(LayoutTest, NoHistory) {
     content->main()->select(3);
     content->main()->settings()->tap(0);
     look("no-history");
+}
+
+TEST_P(LayoutTest, Ads) {
+    phone.bundle.infoValues[QStringLiteral("CFBundleDisplayName")] = QStringLiteral("Orl");
+    tracking.answer = TrackingStatus::Denied;
+    answerConfiguration(true, true, true);
+    makeHome(lively);
+    show();
+    const auto arrive = [this] {
+        for (int round = 0; round < 2; ++round) {
+            comeToRest();
+            for (auto *banner : ads.banners)
+                if (!banner->assets()) banner->receive(poorAd());
+            for (auto *loader : std::exchange(ads.natives, {}))
+                loader->receive(richAd());
+            phone.advance(std::chrono::milliseconds(500));
+        }
+    };
+    arrive();
+    look("ads-messages");
+    phone.advance(NativeAdView_XMARK::displayDelay + std::chrono::seconds(1));
+    look("ads-card-arrives");
+    phone.advance(NativeAdView_XMARK::xMarkDelay);
+    look("ads-card");
+    auto *card = window_->findChild<NativeAdView_XMARK *>();
+    ASSERT_NE(card, nullptr);
+    card->close();
+    content->home()->showSenders();
+    arrive();
+    look("ads-senders");
+    content->home()->tapSender(1);
+    phone.advance(std::chrono::seconds(1));
+    arrive();
+    phone.advance(std::chrono::seconds(2));
+    look("ads-conversation");
+    request().setConversation_isPresented(false);
+    content->home()->openCountries();
+    arrive();
+    look("ads-countries");
+    content->home()->closeCountries();
+
+    stage_.setReady(true);
+    stage_.show({.assets = richAd(), .reward = std::chrono::seconds(15)});
+    look("ads-rewarded");
+    phone.advance(std::chrono::seconds(15));
+    look("ads-reward-earned");
+    stage_.close();
+    stage_.show({.assets = poorAd()});
+    look("ads-full-screen-poor");
+    stage_.close();
+    look("ads-gone");
+    question_.setReady(true);
+    question_.ask([](auto) {});
+    look("ads-tracking");
+    question_.answer(false);
+    consentQuestion_.setReady(true);
+    consentQuestion_.ask([](auto) {});
+    look("ads-consent");
+    consentQuestion_.answer(true);
+    comeToRest();
+    EXPECT_FALSE(consentQuestion_.isAsked());
 }
 
 INSTANTIATE_TEST_SUITE_P(Looks, LayoutTest, testing::ValuesIn(looks),

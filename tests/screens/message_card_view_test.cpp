@@ -50,7 +50,7 @@ TEST_F(MessageCardTest, AgeComesFromThePagesStampThenFromTheDate) {
 }
 
 TEST_F(MessageCardTest, EachTickTakesTwentySecondsOffTheMoment) {
-    cards.show({aged(60), Message()});
+    cards.show({aged(60), Message()}, false);
     QSignalSpy told(&cards, &QAbstractItemModel::dataChanged);
     phone.advance(9999ms);
     EXPECT_EQ(told.count(), 0);
@@ -63,9 +63,9 @@ TEST_F(MessageCardTest, EachTickTakesTwentySecondsOffTheMoment) {
 }
 
 TEST_F(MessageCardTest, CardsThatAppearAnewTickFromThen) {
-    cards.show({aged(60)});
+    cards.show({aged(60)}, false);
     phone.advance(9s);
-    cards.show({aged(60)});
+    cards.show({aged(60)}, false);
     phone.advance(9s);
     EXPECT_EQ(cards.value(0, "age"), QStringLiteral("1 minute ago")); // 60 + 9
     phone.advance(42s);                                               // 60 + 51 + 5 * 20

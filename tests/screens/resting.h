@@ -16,7 +16,16 @@ namespace orl {
 /// come does not depend on how busy the machine is.
 class PlayedAnimations : public QAnimationDriver {
 public:
-    explicit PlayedAnimations(QObject *parent) : QAnimationDriver(parent) { install(); }
+    PlayedAnimations() { install(); }
+
+    /// Lives as long as the application object.
+    static PlayedAnimations &shared() {
+        if (!shared_) {
+            shared_ = new PlayedAnimations;
+            qAddPostRoutine([] { delete std::exchange(shared_, nullptr); });
+        }
+        return *shared_;
+    }
 
     qint64 elapsed() const override { return now_; }
 
@@ -28,6 +37,7 @@ public:
 private:
     static constexpr qint64 frame = 50; ///< milliseconds; coarse, as only the end of a fade is looked at
     qint64 now_ = 0;
+    static inline PlayedAnimations *shared_ = nullptr;
 };
 
 /// Tells two moments of an animated screen apart.
@@ -53,12 +63,11 @@ private:
 /// `settle` runs ahead of each look.
 inline void comeToRest(
     const QQuickItem &screen, const std::function<void()> &settle = [] {}) {
-    static auto *animations = new PlayedAnimations(QCoreApplication::instance());
     constexpr int quietFrames = 3; // an animation begins in the frame after the change that it follows
     size_t before = 0;
     for (int quiet = 0; quiet < quietFrames;) {
         settle();
-        animations->advance();
+        PlayedAnimations::shared().advance();
         QTest::qWait(6); // a window asks for its next frame 5 ms ahead
         const Trace now(screen);
         quiet = std::exchange(before, now.hash) == now.hash && !now.loading ? quiet + 1 : 0;

@@ -5,6 +5,7 @@
 #include "platform/pasteboard.h"
 #include "played_services.h"
 #include "screens/content_view.h"
+#include "support/played_ads.h"
 
 #include <QUrl>
 
@@ -49,6 +50,7 @@ inline QStringList texts(const KeyedRows &model, const QByteArray &role) {
 /// All screens on a played phone. Its catalogue page lists three countries; "Norway" has two numbers.
 struct ScreensTest : NumbersTest {
     ScreensTest() {
+        tracking.answer = TrackingStatus::Authorized;
         phone.urls.answer(QStringLiteral("https://configuration.example/KeLo/iOS/orl_config.json"), "");
         phone.urls.answer(QStringLiteral("https://configuration.example/KeLo/OnlineSMS/scraping_config.json"),
                           "");
@@ -95,13 +97,16 @@ struct ScreensTest : NumbersTest {
                                      push, mail, storeReview, scene);
     }
 
-    /// The remote document arrives with everything on.
-    void answerConfiguration() {
+    /// The remote document arrives with everything on, native ads where wanted.
+    void answerConfiguration(bool native = true, bool blackBanner = false, bool xMark = false) {
+        const auto flag = [](bool on) { return on ? QByteArray("true") : QByteArray("false"); };
         phone.urls.answer(QStringLiteral("https://configuration.example/KeLo/iOS/orl_config.json"),
                           R"({"admob": {"ipad_ad_enabled": true, "banner_ad_enabled": true,
-            "open_ad_enabled": true, "reward_ad_enabled": true, "native_ad_enabled": true,
-            "interstitial_ad_enabled": true, "show_full_ad_after": 3, "use_xmark_native": false},
-            "black_banner": {"is_active": false, "on_number_card": false, "random_display": [false]}})");
+            "open_ad_enabled": true, "reward_ad_enabled": true,
+            "interstitial_ad_enabled": true, "show_full_ad_after": 3, "native_ad_enabled": )" +
+                              flag(native) + R"(, "use_xmark_native": )" + flag(xMark) +
+                              R"(}, "black_banner": {"is_active": )" + flag(blackBanner) +
+                              R"(, "on_number_card": true, "random_display": []}})");
     }
 
     /// How many actions of the user count towards the next full-screen ad.

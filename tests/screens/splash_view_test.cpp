@@ -21,17 +21,17 @@ TEST_F(SplashTest, ShowsTheProgramsNameAndLeavesAfterTwoAndAHalfSeconds) {
     EXPECT_EQ(splash().displayName(), QStringLiteral("Orl"));
     EXPECT_EQ(splash().subtitle(), QStringLiteral("Virtual Phone Numbers"));
     phone.advance(1499ms);
-    EXPECT_EQ(consent.updates, 0);
+    EXPECT_EQ(consent.events.count(QStringLiteral("update")), 0);
     EXPECT_FALSE(splash().hideContent());
     phone.advance(1ms);
-    EXPECT_EQ(consent.updates, 1);
+    EXPECT_EQ(consent.events.count(QStringLiteral("update")), 1);
     EXPECT_TRUE(splash().hideContent());
     phone.advance(999ms);
     EXPECT_TRUE(content->splashIsPresented());
     phone.advance(1ms);
     EXPECT_FALSE(content->splashIsPresented());
     EXPECT_TRUE(adsLoad());
-    EXPECT_TRUE(push.fallbacks.empty()) << "only the first start asks";
+    EXPECT_TRUE(push.asked.isEmpty()) << "only the first start asks";
 }
 
 TEST_F(SplashTest, SecondAppearingOfTheWindowStartsNothingAnew) {
@@ -42,13 +42,13 @@ TEST_F(SplashTest, SecondAppearingOfTheWindowStartsNothingAnew) {
     EXPECT_FALSE(content->splashIsPresented());
     phone.advance(10s);
     EXPECT_FALSE(content->splashIsPresented());
-    EXPECT_EQ(consent.updates, 1);
+    EXPECT_EQ(consent.events.count(QStringLiteral("update")), 1);
 }
 
 TEST_F(SplashTest, KnownTrackingStatusNeverWaitsForTheConsentService) {
     for (const TrackingStatus known :
          {TrackingStatus::Restricted, TrackingStatus::Denied, TrackingStatus::Authorized}) {
-        tracking.current = known;
+        tracking.answer = known;
         consent.holdUpdates = true;
         restartScreens();
         makeContent();
@@ -62,49 +62,49 @@ TEST_F(SplashTest, KnownTrackingStatusNeverWaitsForTheConsentService) {
 
 TEST_F(SplashTest, FormThatIsLateComesUpOverTheMainScreen) {
     consent.form = ConsentFormStatus::Available;
-    consent.consent = ConsentStatus::Required;
+    consent.status = ConsentStatus::Required;
     consent.holdUpdates = true;
     makeContent();
     phone.advance(2500ms);
     EXPECT_FALSE(content->splashIsPresented());
     consent.answerUpdates();
     phone.settle();
-    EXPECT_EQ(consent.formsPresented, 1);
+    EXPECT_TRUE(consent.isPresented());
     EXPECT_FALSE(adsLoad()) << "nothing loads before the user has answered";
-    consent.agree();
+    consent.dismiss();
     phone.settle();
     EXPECT_TRUE(adsLoad());
 }
 
 TEST_F(SplashTest, FirstStartWaitsForEachAnswerOfTheUser) {
-    tracking.current = TrackingStatus::NotDetermined;
+    tracking.answer = TrackingStatus::NotDetermined;
     consent.form = ConsentFormStatus::Available;
-    consent.consent = ConsentStatus::Required;
+    consent.status = ConsentStatus::Required;
     makeContent();
     phone.advance(1500ms);
     EXPECT_TRUE(splash().showIDFAAlert());
     phone.advance(1h);
-    EXPECT_FALSE(tracking.asks());
+    EXPECT_EQ(tracking.asked, 0);
 
     splash().continueTapped();
     EXPECT_FALSE(splash().showIDFAAlert());
-    EXPECT_TRUE(tracking.asks());
+    EXPECT_EQ(tracking.asked, 1);
     phone.advance(1h);
-    EXPECT_EQ(consent.formsPresented, 0);
+    EXPECT_FALSE(consent.isPresented());
 
-    tracking.answer(TrackingStatus::Authorized);
+    tracking.decide(TrackingStatus::Authorized);
     phone.advance(1h);
-    EXPECT_EQ(consent.formsPresented, 1);
+    EXPECT_TRUE(consent.isPresented());
     EXPECT_FALSE(adsLoad());
-    EXPECT_TRUE(push.fallbacks.empty());
+    EXPECT_TRUE(push.asked.isEmpty());
 
-    consent.agree();
+    consent.dismiss();
     phone.advance(1h);
     EXPECT_TRUE(adsLoad());
-    EXPECT_EQ(push.fallbacks, std::vector{true});
+    EXPECT_EQ(push.asked, QList<bool>{true});
     EXPECT_FALSE(splash().hideContent());
 
-    push.answer(false);
+    push.decide(false);
     EXPECT_TRUE(splash().hideContent());
     phone.advance(999ms);
     EXPECT_TRUE(content->splashIsPresented());
@@ -113,34 +113,34 @@ TEST_F(SplashTest, FirstStartWaitsForEachAnswerOfTheUser) {
 }
 
 TEST_F(SplashTest, RefusedTrackingShowsNoForm) {
-    tracking.current = TrackingStatus::NotDetermined;
+    tracking.answer = TrackingStatus::NotDetermined;
     consent.form = ConsentFormStatus::Available;
-    consent.consent = ConsentStatus::Required;
+    consent.status = ConsentStatus::Required;
     makeContent();
     phone.advance(1500ms);
     splash().continueTapped();
-    tracking.answer(TrackingStatus::Denied);
+    tracking.decide(TrackingStatus::Denied);
     phone.settle();
-    EXPECT_EQ(consent.formsPresented, 0);
-    push.answer(true);
+    EXPECT_FALSE(consent.isPresented());
+    push.decide(true);
     phone.advance(1s);
     EXPECT_FALSE(content->splashIsPresented());
 }
 
 /// Without a form at the first update a second one is made while the start goes on; ads load with either.
 TEST_F(SplashTest, CompletionThatComesTwiceIsBorne) {
-    tracking.current = TrackingStatus::NotDetermined;
+    tracking.answer = TrackingStatus::NotDetermined;
     makeContent();
     phone.advance(1500ms);
     consent.holdUpdates = true;
     splash().continueTapped();
-    tracking.answer(TrackingStatus::Authorized);
+    tracking.decide(TrackingStatus::Authorized);
     phone.settle();
-    push.answer(true);
+    push.decide(true);
     phone.advance(1s);
     EXPECT_FALSE(content->splashIsPresented());
     consent.answerUpdates();
-    push.answer(true);
+    push.decide(true);
     phone.advance(10s);
     EXPECT_FALSE(content->splashIsPresented());
 }
@@ -148,7 +148,7 @@ TEST_F(SplashTest, CompletionThatComesTwiceIsBorne) {
 TEST_F(SplashTest, ContinueCountsOnlyWhileItIsShown) {
     makeContent();
     splash().continueTapped();
-    EXPECT_FALSE(tracking.asks());
+    EXPECT_EQ(tracking.asked, 0);
 }
 
 } // namespace

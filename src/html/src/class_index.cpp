@@ -53,6 +53,13 @@ const ClassIndex *ClassIndex::of(const NodeRec *node) {
     return holds ? &index : nullptr;
 }
 
+std::size_t ClassIndex::size() const {
+    std::size_t count = 0;
+    for (const Block *block = first_; block; block = block->next)
+        count += block->count;
+    return count;
+}
+
 Ref ClassIndex::endOf(const NodeRec *top) {
     for (const NodeRec *node = top; node; node = parent(node))
         if (node->next) return node->next;

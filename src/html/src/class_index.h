@@ -44,6 +44,8 @@ public:
     /// Whether there are enough entries for searches to be worth some preparation.
     bool isLong() const { return first_ && first_->next; }
 
+    std::size_t size() const;
+
     /// Calls `visit` with each entry of the node and of what is below it.
     template<class Visit>
     void forEachIn(const NodeRec *top, Visit visit) const {

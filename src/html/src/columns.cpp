@@ -1,67 +1,14 @@
 #include "columns.h"
 
 #include "tables.h"
+#include "text_numbers.h"
 
-#include <bit>
-#include <cstring>
-#include <string_view>
 #include <unordered_map>
 #include <utility>
 
 namespace orl::html::core {
 
 namespace {
-
-/// Gives equal texts equal numbers: an open table, half empty at least. Its hash looks at both ends of a
-/// text, which is enough for the few and short values of a page.
-class TextNumbers {
-public:
-    TextNumbers() : places_(64) {}
-
-    std::uint32_t numberOf(std::string_view text) {
-        const std::uint64_t hash = hashOfEnds(text);
-        std::size_t i = hash & (places_.size() - 1);
-        for (; places_[i].number; i = (i + 1) & (places_.size() - 1)) {
-            const Place &place = places_[i];
-            if (place.hash == hash && place.text == text) return place.number - 1;
-        }
-        places_[i] = {hash, text, ++count_};
-        if (count_ * 2 > places_.size()) grow();
-        return count_ - 1;
-    }
-
-private:
-    struct Place {
-        std::uint64_t hash = 0;
-        std::string_view text;
-        std::uint32_t number = 0; ///< plus one; 0 for a free place
-    };
-
-    static std::uint64_t hashOfEnds(std::string_view text) {
-        std::uint64_t first = 0, last = 0;
-        const std::size_t size = std::min<std::size_t>(text.size(), sizeof first);
-        if (size > 0) {
-            std::memcpy(&first, text.data(), size);
-            std::memcpy(&last, text.data() + text.size() - size, size);
-        }
-        const std::uint64_t mixed = (first ^ std::rotl(last, 29) ^ text.size()) * 0x9e3779b97f4a7c15U;
-        return mixed ^ (mixed >> 32);
-    }
-    void grow() {
-        std::vector<Place> old(places_.size() * 2);
-        old.swap(places_);
-        for (const Place &place : old) {
-            if (!place.number) continue;
-            std::size_t i = place.hash & (places_.size() - 1);
-            while (places_[i].number)
-                i = (i + 1) & (places_.size() - 1);
-            places_[i] = place;
-        }
-    }
-
-    std::vector<Place> places_;
-    std::uint32_t count_ = 0;
-};
 
 void add(Column &column, const NodeRec *element, std::uint32_t number) {
     if (number == column.examples.size()) column.examples.push_back(element);
@@ -90,47 +37,54 @@ void fillClasses(Column &column, NodeRec *root) {
     }
 }
 
-/// The column if it is that of the tree as it is now; filled when this is the second time that it is asked
-/// for.
-template<class Fill>
-const Column *columnOf(NodeRec *root, Column Columns::*which, Fill fill) {
+void fillClasses(Column &column, const ClassIndex &index) {
+    TextNumbers numbers;
+    column.elements.resize(index.size());
+    column.numbers.resize(index.size());
+    Ref *element = column.elements.data();
+    std::uint32_t *number = column.numbers.data();
+    index.forEachIn(index.page(), [&](ClassIndex::Entry entry) {
+        *element++ = entry.element;
+        *number++ = numbers.numberOf(at<AttrRec>(entry.attr)->text());
+        if (number[-1] == column.examples.size()) column.examples.push_back(at<NodeRec>(entry.element));
+    });
+}
+
+/// The column if it is that of the tree as it is now, filled; null if nobody asked for it yet.
+template<class Fill, class From>
+const Column *columnOf(NodeRec *root, Column Columns::*which, Fill fill, From &from) {
     Arena &arena = arenaOf(root);
     if (!arena.tablesIfAny()) return nullptr;
     Column &column = arena.tables().columns.*which;
     if (column.root != root || column.version != arena.version) return nullptr;
-    if (column.elements.empty()) fill(column, root);
+    if (!std::exchange(column.isFilled, true)) fill(column, from);
     return &column;
 }
 
 } // namespace
 
 const Column *tagColumn(NodeRec *root) {
-    return columnOf(root, &Columns::tags, fillTags);
+    return columnOf(root, &Columns::tags, fillTags, root);
 }
 
 const Column *classColumn(NodeRec *root) {
-    return columnOf(root, &Columns::classes, fillClasses);
+    const auto fill = static_cast<void (*)(Column &, NodeRec *)>(fillClasses);
+    return columnOf(root, &Columns::classes, fill, root);
 }
 
 const Column *classColumn(const ClassIndex &index) {
-    NodeRec *const all = index.page();
-    const Column *column = columnOf(all, &Columns::classes, [&index](Column &empty, const NodeRec *page) {
-        TextNumbers numbers;
-        index.forEachIn(page, [&](ClassIndex::Entry entry) {
-            add(empty, at<NodeRec>(entry.element), numbers.numberOf(at<AttrRec>(entry.attr)->text()));
-        });
-    });
-    if (!column) rememberSearch(all, &Columns::classes);
+    const auto fill = static_cast<void (*)(Column &, const ClassIndex &)>(fillClasses);
+    const Column *column = columnOf(index.page(), &Columns::classes, fill, index);
+    if (!column) rememberSearch(index.page(), &Columns::classes);
     return column;
 }
 
-bool putClassColumnOff(const ClassIndex &index) {
-    Arena &arena = arenaOf(index.page());
-    if (!arena.tablesIfAny()) return false;
-    Column &column = arena.tables().columns.classes;
-    const bool isDue =
-        column.root == index.page() && column.version == arena.version && column.elements.empty();
-    return isDue && !std::exchange(column.isPutOff, true);
+Stretch stretchOf(const Column &column, const ClassIndex &index, const NodeRec *top) {
+    if (top == index.page()) return {0, column.elements.size()};
+    const auto place = [&column](Ref ref) {
+        return std::size_t(std::ranges::lower_bound(column.elements, ref) - column.elements.begin());
+    };
+    return {place(refOf(top)), place(ClassIndex::endOf(top))};
 }
 
 void rememberSearch(NodeRec *root, Column Columns::*which) {

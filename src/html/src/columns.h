@@ -16,10 +16,10 @@
 namespace orl::html::core {
 
 struct Column {
-    const NodeRec *root = nullptr;         ///< was searched, and
-    std::uint64_t version = 0;             ///< had not changed since when the arena was at this version
-    bool isPutOff = false;                 ///< filling it was put off once
-    std::vector<Ref> elements;             ///< empty until the root is searched again
+    const NodeRec *root = nullptr; ///< was searched, and
+    std::uint64_t version = 0;     ///< had not changed since when the arena was at this version
+    bool isFilled = false;         ///< which happens when the root is searched again
+    std::vector<Ref> elements;
     std::vector<std::uint32_t> numbers;    ///< of each element
     std::vector<const NodeRec *> examples; ///< of each number: an element that has it
 };
@@ -36,25 +36,39 @@ struct Columns {
 /// else null.
 const Column *tagColumn(NodeRec *root);
 const Column *classColumn(NodeRec *root);
-/// The same for all that the index has, which was searched before if this gives null.
+/// The same for all that the index has, if it was searched before; from now on it was.
 const Column *classColumn(const ClassIndex &index);
-/// Whether the next classColumn() would fill that column and nobody has put that off yet: once it is put off,
-/// as the search at hand may be the only one.
-bool putClassColumnOff(const ClassIndex &index);
+
+/// A part of a column.
+struct Stretch {
+    std::size_t first, last;
+
+    std::size_t size() const { return last - first; }
+};
+/// Where the subtree of `top` stands in the column of a page as it was parsed, which has an index in the
+/// order of addresses or for the page as a whole.
+Stretch stretchOf(const Column &column, const ClassIndex &index, const NodeRec *top);
+
+/// What `decide` says for each of the column's numbers.
+template<class Decide>
+auto decideAll(const Column &column, Decide decide) {
+    std::vector<decltype(decide(column.examples.front()))> all;
+    all.reserve(column.examples.size());
+    for (const NodeRec *example : column.examples)
+        all.push_back(decide(example));
+    return all;
+}
 
 /// Remembers that the tree was searched.
 void rememberSearch(NodeRec *root, Column Columns::*column);
 
-/// The elements for which `matches` is true, among those of the column from `first` to `last`.
+/// The elements of the stretch for which `matches` is true.
 template<class Matches>
-Found findInColumn(const Column &column, std::size_t first, std::size_t last, Matches matches) {
-    std::vector<char> meant;
-    meant.reserve(column.examples.size());
-    for (const NodeRec *example : column.examples)
-        meant.push_back(matches(example));
+Found findInColumn(const Column &column, Stretch stretch, Matches matches) {
+    const auto meant = decideAll(column, [&](const NodeRec *example) { return char(matches(example)); });
     Found found;
-    for (std::size_t i = first; i < last; ++i)
-        if (meant[column.numbers[i]]) found.push_back(at<NodeRec>(column.elements[i]));
+    for (std::size_t i = stretch.first; i < stretch.last; ++i)
+        if (meant[column.numbers[i]]) found.push_back(column.elements[i]);
     return found;
 }
 
@@ -63,7 +77,7 @@ template<class Matches>
 Found findByColumn(NodeRec *root, const Column *(*columnOf)(NodeRec *), Column Columns::*which,
                    Matches matches) {
     if (const Column *column = columnOf(root))
-        return findInColumn(*column, 0, column->elements.size(), matches);
+        return findInColumn(*column, {0, column->elements.size()}, matches);
     std::size_t visited = 0;
     Found found = findAll(root, [&](const NodeRec *element) {
         ++visited;

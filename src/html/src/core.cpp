@@ -123,6 +123,7 @@ Arena &Arena::merge(Arena &left, Arena &right) {
     stays.size_ += goes.size_;
     stays.chunkCount_ += goes.chunkCount_;
     stays.held_ += goes.held_;
+    stays.mergeLists(goes);
     stays.dropped_ += goes.dropped_;
     stays.version += goes.version + 1;
     if (goes.tables_) {
@@ -407,6 +408,8 @@ bool Arena::releaseMore(NodeRec *node) {
 }
 
 void Arena::reclaim(NodeRec *root) {
+    countLists();
+    if (root->holders) return;
     ++version;
     std::vector<NodeRec *> orphans;
     while (root) {
@@ -458,12 +461,15 @@ void dropIfUnheld(NodeRec *node) {
 }
 
 void leaveParent(NodeRec *node) {
+    // A list does not look whether a node has a parent when it lets go of the arena.
+    if (isLinked(node)) arenaOf(node).countLists();
     if (!isLinked(node) && node->parent) --arenaOf(node).dropped_;
     detach(node);
 }
 
 void dropChildren(NodeRec *node) {
     Arena &arena = arenaOf(node);
+    arena.countLists();
     while (NodeRec *child = firstChild(node)) {
         detach(child);
         if (!child->holders) {

@@ -44,6 +44,8 @@ enum class QuirksMode : unsigned char;
 
 namespace orl::html::core {
 
+class NodeList;
+
 /// Kinds up to Document are elements and may have children.
 enum class Kind : std::uint8_t { Element, Form, Document, Text, Data, Comment, Doctype, XmlDeclaration };
 
@@ -449,6 +451,8 @@ public:
     ClassIndex classes;
 
     std::uint32_t chunkCount() const { return chunkCount_; }
+    /// Whether it has but a few nodes, which a caller made on their own.
+    bool isLoose() const { return size_ == chunkCount_ * slotSize; }
     /// Whether each chunk has a higher address than those that were taken before it.
     bool isInOneRow() const;
     /// Where the next record will stand, if it fits into the chunk.
@@ -462,7 +466,7 @@ public:
 
 private:
     friend void hold(NodeRec *node);
-    friend void holdAll(NodeRec *const *nodes, std::size_t count);
+    friend class NodeList;
     friend void release(NodeRec *node);
     friend void dropIfUnheld(NodeRec *node);
     friend void dropChildren(NodeRec *node);
@@ -490,13 +494,18 @@ private:
     NodeRec *newNode();
     const TagRec *dynamicTag(std::string_view name, std::uint16_t flags, const TagRec *like);
     void reclaim(NodeRec *root);
+    /// Lets the lists that keep the arena be counted in their nodes. Before a caller takes nodes out of their
+    /// parents, and before nodes go, as who holds which of them decides what goes.
+    void countLists();
+    void mergeLists(Arena &goes);
     void freeNode(NodeRec *node, std::vector<NodeRec *> &orphans);
     void holdMore(NodeRec *node);
     bool releaseMore(NodeRec *node);
 
     char *cursor_;              ///< records grow up from here
     char *end_;                 ///< texts grow down from here
-    std::uint64_t held_ = 0;    ///< handles of callers into this arena
+    std::uint64_t held_ = 0;    ///< handles of callers into this arena, and lists that keep it
+    NodeList *lists_ = nullptr; ///< one of those, in a ring
     Ref freeNodes_ = 0;         ///< records that were given back, linked by `next`
     std::uint32_t dropped_ = 0; ///< held nodes that name a parent which dropped them
     Chunk *chunks_;             ///< the newest one first
@@ -598,18 +607,6 @@ inline void hold(NodeRec *node) {
         ++node->holders;
     else
         arenaOf(node).holdMore(node);
-}
-
-/// The same for several nodes of one arena, at least one.
-inline void holdAll(NodeRec *const *nodes, std::size_t count) {
-    Arena &arena = arenaOf(*nodes);
-    arena.held_ += count;
-    for (NodeRec *const *node = nodes; node != nodes + count; ++node) {
-        if ((*node)->holders != NodeRec::manyHolders) [[likely]]
-            ++(*node)->holders;
-        else
-            arena.holdMore(*node);
-    }
 }
 
 inline void release(NodeRec *node) {

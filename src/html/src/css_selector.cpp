@@ -12,7 +12,7 @@ using namespace core;
 Elements Collector::collect(const Evaluator &evaluator, const Element &root) {
     Search search(evaluator);
     search.setRoot(root.record());
-    return asElements(search.run());
+    return Elements(search.run());
 }
 
 CssSelector::CssSelector(std::string_view query, const Element &root)
@@ -61,15 +61,21 @@ Elements CssSelector::select(std::string_view query, const Elements &roots) {
     SearchedRoots searched;
     NodeSet seen;
     Found all;
+    bool isOneTree = true;
     for (const Element &root : roots) {
+        isOneTree = isOneTree && &arenaOf(root.record()) == &arenaOf(roots.first().record());
         // What a root inside another one would find, that one has found.
         if (search.traits().growing && searched.cover(root.record())) continue;
         searched.add(root.record());
         search.setRoot(root.record());
-        for (NodeRec *element : search.run())
-            if (seen.add(element)) all.push_back(element);
+        for (const Ref element : search.run())
+            if (seen.add(at<NodeRec>(element))) all.push_back(element);
     }
-    return asElements(all);
+    if (isOneTree) return asElements(std::move(all));
+    Elements found;
+    for (const Ref element : all)
+        found.add(Element(at<NodeRec>(element)));
+    return found;
 }
 
 } // namespace orl::html

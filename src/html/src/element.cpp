@@ -102,10 +102,10 @@ std::map<std::string, std::string> Element::dataset() const {
 // ---- Around the element ----
 
 Elements Element::parents() const {
-    std::vector<Element> all;
-    for (Element above = parent(); above; above = above.parent())
-        all.push_back(above);
-    return all;
+    Found all;
+    for (const NodeRec *above = parentOf(record_); above; above = parentOf(above))
+        all.push_back(refOf(above));
+    return asElements(std::move(all));
 }
 
 Element Element::child(std::size_t index) const {
@@ -113,10 +113,10 @@ Element Element::child(std::size_t index) const {
 }
 
 Elements Element::children() const {
-    std::vector<Element> all;
-    for (NodeRec *node = firstElement(record_); node; node = nextElement(node))
-        all.emplace_back(node);
-    return all;
+    Found all;
+    for (const NodeRec *node = firstElement(record_); node; node = nextElement(node))
+        all.push_back(refOf(node));
+    return asElements(std::move(all));
 }
 
 std::vector<TextNode> Element::textNodes() const {
@@ -212,11 +212,11 @@ const Element &Element::after(std::string_view html) const {
 // ---- Among the child elements of the parent ----
 
 Elements Element::siblingElements() const {
-    std::vector<Element> all;
+    Found all;
     const NodeRec *above = parentOf(record_);
-    for (NodeRec *node = above ? firstElement(above) : nullptr; node; node = nextElement(node))
-        if (node != record_) all.emplace_back(node);
-    return all;
+    for (const NodeRec *node = above ? firstElement(above) : nullptr; node; node = nextElement(node))
+        if (node != record_) all.push_back(refOf(node));
+    return asElements(std::move(all));
 }
 
 Element Element::nextElementSibling() const {
@@ -396,10 +396,10 @@ bool FormElement::isKindOf(const core::NodeRec *record) {
 }
 
 Elements FormElement::elements() const {
-    std::vector<Element> all;
-    for (NodeRec *control : arenaOf(record_).formControls(record_))
-        all.emplace_back(control);
-    return all;
+    Found all;
+    for (const NodeRec *control : arenaOf(record_).formControls(record_))
+        all.push_back(refOf(control));
+    return asElements(std::move(all));
 }
 
 const FormElement &FormElement::addElement(const Element &element) const {

@@ -1,6 +1,7 @@
 #include "open_elements.h"
 
 #include <utility>
+#include <vector>
 
 namespace orl::html::core {
 

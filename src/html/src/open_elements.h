@@ -6,11 +6,11 @@
 #pragma once
 
 #include "core.h"
+#include "pile.h"
 #include "tag_sets.h"
 
 #include <array>
 #include <cstdint>
-#include <vector>
 
 namespace orl::html::core {
 
@@ -73,7 +73,7 @@ private:
         return tag->id != TagId::Unknown ? newest_[unsigned(tag->id)] : tag->newestOpen;
     }
 
-    std::vector<Entry> entries_;
+    Pile<Entry> entries_;
     Bounds bounds_;
     Place unknown_ = 0;
     std::array<Place, tagCount> newest_{};

@@ -2,13 +2,15 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdlib>
 #include <memory>
+#include <new>
 #include <type_traits>
-#include <utility>
 
 namespace orl::html::core {
 
-/// Like a vector, but emptying it is one store and no branch.
+/// Like a vector, but emptying it is one store and no branch, and a long one grows without being copied where
+/// the system can move its pages.
 template<class T>
 class Pile {
     static_assert(std::is_trivially_copyable_v<T> && std::is_trivially_destructible_v<T>);
@@ -25,9 +27,12 @@ public:
         records_[size_++] = record;
     }
 
+    void pop_back() { --size_; }
+
     std::size_t size() const { return size_; }
     bool empty() const { return size_ == 0; }
     const T *data() const { return records_.get(); }
+    const T &back() const { return records_[size_ - 1]; }
     T &operator[](std::size_t place) { return records_[place]; }
     const T &operator[](std::size_t place) const { return records_[place]; }
     const T *begin() const { return records_.get(); }
@@ -36,17 +41,21 @@ public:
 private:
     void grow();
 
-    std::unique_ptr<T[]> records_;
+    struct Free {
+        void operator()(T *records) const { std::free(records); }
+    };
+
+    std::unique_ptr<T[], Free> records_;
     std::size_t size_ = 0, capacity_ = 0;
 };
 
 template<class T>
 void Pile<T>::grow() {
     const std::size_t capacity = capacity_ ? 2 * capacity_ : 16;
-    std::unique_ptr<T[]> larger(new T[capacity]);
-    for (std::size_t i = 0; i < size_; ++i)
-        larger[i] = records_[i];
-    records_ = std::move(larger);
+    void *const larger = std::realloc(static_cast<void *>(records_.get()), capacity * sizeof(T));
+    if (!larger) throw std::bad_alloc();
+    static_cast<void>(records_.release());
+    records_.reset(static_cast<T *>(larger));
     capacity_ = capacity;
 }
 

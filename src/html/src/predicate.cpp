@@ -1,6 +1,9 @@
 #include "predicate.h"
 
 #include "orl/html/evaluator.h"
+#include "tables.h"
+
+#include <algorithm>
 
 namespace orl::html::core {
 
@@ -11,7 +14,7 @@ Found findWithin(Predicate &predicate, NodeRec *top, std::uint32_t levels) {
     Found found;
     std::uint32_t level = 0;
     for (NodeRec *node = top;;) {
-        if (isElement(node) && predicate.holds(node)) found.push_back(node);
+        if (isElement(node) && predicate.holds(node)) found.push_back(refOf(node));
         if (NodeRec *child = level < levels ? firstChild(node) : nullptr) {
             node = child;
             ++level;
@@ -43,6 +46,34 @@ private:
 
 } // namespace
 
+namespace {
+
+void appendKind(std::string &question, char kind, std::size_t count) {
+    question += kind;
+    for (; count > 0; count /= 10)
+        question += char('0' + count % 10);
+    question += ' ';
+}
+
+} // namespace
+
+bool appendNameQuestion(std::string &question, char kind, std::string_view name) {
+    appendKind(question, kind, name.size());
+    question += name;
+    return true;
+}
+
+bool appendQuestionOf(std::string &question, char kind, const Predicate &inner) {
+    question += kind;
+    return inner.appendQuestion(question);
+}
+
+bool appendQuestionOfAll(std::string &question, char kind, const std::vector<PredicatePtr> &parts) {
+    appendKind(question, kind, parts.size());
+    return std::ranges::all_of(
+        parts, [&question](const PredicatePtr &part) { return part->appendQuestion(question); });
+}
+
 Search::Search(const Evaluator &evaluator)
     : scope_{nullptr, places_}, predicate_(evaluator.compile(scope_)) {}
 
@@ -53,7 +84,21 @@ void Search::setRoot(NodeRec *root) {
     if (changed) predicate_->rootChanged();
 }
 
-Found Search::run() {
+/// The answers about a whole tree are kept: those are the searches that take long.
+SharedRefs Search::run() {
+    Arena &arena = arenaOf(scope_.root);
+    if (scope_.root->parent || arena.isLoose()) return SharedRefs(find());
+    std::string question;
+    question.reserve(100);
+    if (!predicate_->appendQuestion(question)) return SharedRefs(find());
+    if (const SharedRefs *known = arena.tables().answers.find(arena.version, scope_.root, question))
+        return *known;
+    SharedRefs found(find());
+    arena.tables().answers.add(arena.version, scope_.root, question, found);
+    return found;
+}
+
+Found Search::find() {
     if (traits().reach == Traits::unlimited) return predicate_->findIn(scope_.root);
     return findWithin(*predicate_, scope_.root, traits().reach);
 }

@@ -6,12 +6,17 @@
 // siblings and descendants keep the answers.
 #pragma once
 
+#include "class_match.h"
 #include "core.h"
+#include "orl/html/node_list.h"
 #include "places.h"
 #include "search.h"
 
 #include <cstdint>
 #include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace orl::html {
 class Evaluator;
@@ -50,12 +55,20 @@ public:
 
     /// Leaves those in the list, which is in document order, for which it holds.
     virtual void filter(Found &elements) {
-        std::erase_if(elements, [this](NodeRec *element) { return !holds(element); });
+        std::erase_if(elements, [this](Ref element) { return !holds(at<NodeRec>(element)); });
     }
 
-    /// How little findIn looks at.
+    /// How little findIn looks at. What looks at less than the tree cannot fail.
     enum class Walk { Tree, Column, Index };
     virtual Walk walk() const { return Walk::Tree; }
+
+    /// The class, if it asks for nothing else.
+    virtual const ClassName *className() const { return nullptr; }
+    /// The class, if it asks for nothing but that an element above has it.
+    virtual const ClassName *classAbove() const { return nullptr; }
+    /// Appends a text that says all it asks: predicates with the same one have the same answers as long as no
+    /// tree changes. False where there is none.
+    virtual bool appendQuestion(std::string &) const { return false; }
 
     /// The scope has another root now.
     virtual void rootChanged() {}
@@ -64,6 +77,12 @@ public:
 };
 
 using PredicatePtr = std::unique_ptr<Predicate>;
+
+// Predicate::appendQuestion of a predicate that asks for one name, and of one that asks others; `kind` tells
+// it from all the other ones.
+bool appendNameQuestion(std::string &question, char kind, std::string_view name);
+bool appendQuestionOf(std::string &question, char kind, const Predicate &inner);
+bool appendQuestionOfAll(std::string &question, char kind, const std::vector<PredicatePtr> &parts);
 
 /// A predicate that looks at the element and asks no other.
 template<class Test>
@@ -92,11 +111,13 @@ public:
 
     void setRoot(NodeRec *root);
     bool matches(NodeRec *element) { return predicate_->holds(element); }
-    Found run();
+    SharedRefs run();
 
     const Traits &traits() const { return predicate_->traits; }
 
 private:
+    Found find();
+
     Places places_;
     Scope scope_;
     PredicatePtr predicate_;

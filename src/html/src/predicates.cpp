@@ -2,6 +2,7 @@
 #include "attr_value.h"
 #include "class_index.h"
 #include "class_match.h"
+#include "class_search.h"
 #include "columns.h"
 #include "orl/html/evaluator.h"
 #include "pattern_search.h"
@@ -31,51 +32,47 @@ namespace {
 template<class Test>
 class TagPredicate final : public Predicate {
 public:
-    explicit TagPredicate(Test test) : Predicate({}), test_(std::move(test)) {}
+    TagPredicate(Test test, char kind, const std::string &name)
+        : Predicate({}), test_(std::move(test)), kind_(kind), name_(name) {}
 
     bool holds(NodeRec *element) override { return test_(element); }
     Walk walk() const override { return Walk::Column; }
     Found findIn(NodeRec *top) override { return findByColumn(top, tagColumn, &Columns::tags, test_); }
+    bool appendQuestion(std::string &question) const override {
+        return appendNameQuestion(question, kind_, name_);
+    }
 
 private:
     Test test_;
+    char kind_;
+    const std::string &name_;
 };
 
 template<class Test>
-PredicatePtr makeTagTest(Test test) {
-    return std::make_unique<TagPredicate<Test>>(std::move(test));
+PredicatePtr makeTagTest(Test test, char kind, const std::string &name) {
+    return std::make_unique<TagPredicate<Test>>(std::move(test), kind, name);
 }
 
 /// Looks at nothing but the "class" attribute.
 class ClassPredicate final : public Predicate {
 public:
-    explicit ClassPredicate(const std::string &name) : Predicate({}), name_(name) {}
+    explicit ClassPredicate(const std::string &name) : Predicate({}), given_(name), name_(name) {}
 
     bool holds(NodeRec *element) override { return name_.isIn(element); }
     Walk walk() const override { return Walk::Index; }
     Found findIn(NodeRec *top) override {
         const auto matches = [this](const NodeRec *element) { return name_.isIn(element); };
         const ClassIndex *index = ClassIndex::of(top);
-        if (!index) return findByColumn(top, classColumn, &Columns::classes, matches);
-        if (const Column *column = index->isLong() ? classColumn(*index) : nullptr) {
-            const auto place = [column](Ref ref) {
-                return std::size_t(std::ranges::lower_bound(column->elements, ref) -
-                                   column->elements.begin());
-            };
-            const bool all = top == index->page();
-            const std::size_t first = all ? 0 : place(refOf(top));
-            const std::size_t last = all ? column->elements.size() : place(ClassIndex::endOf(top));
-            // Below a small part of the page there are fewer elements than numbers to decide about.
-            if (last - first >= column->examples.size()) return findInColumn(*column, first, last, matches);
-        }
-        Found found;
-        index->forEachIn(top, [&](ClassIndex::Entry entry) {
-            if (name_.isIn(at<AttrRec>(entry.attr)->text())) found.push_back(at<NodeRec>(entry.element));
-        });
-        return found;
+        return index ? findByClass(*index, top, name_)
+                     : findByColumn(top, classColumn, &Columns::classes, matches);
+    }
+    const ClassName *className() const override { return &name_; }
+    bool appendQuestion(std::string &question) const override {
+        return appendNameQuestion(question, '.', given_);
     }
 
 private:
+    const std::string &given_;
     ClassName name_;
 };
 
@@ -83,11 +80,13 @@ private:
 
 PredicatePtr Evaluator::Tag::compile(Scope &) const {
     return makeTagTest(
-        [name = TagName(tagNameNormal_)](const NodeRec *element) { return name.isOf(element); });
+        [name = TagName(tagNameNormal_)](const NodeRec *element) { return name.isOf(element); }, 't',
+        tagNameNormal_);
 }
 
 PredicatePtr Evaluator::TagEndsWith::compile(Scope &) const {
-    return makeTagTest([this](const NodeRec *element) { return tagOf(element)->name().ends_with(tagName_); });
+    return makeTagTest([this](const NodeRec *element) { return tagOf(element)->name().ends_with(tagName_); },
+                       'e', tagName_);
 }
 
 PredicatePtr Evaluator::Class::compile(Scope &) const {

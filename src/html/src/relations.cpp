@@ -1,5 +1,6 @@
 #include "relations.h"
 
+#include "class_search.h"
 #include "node_marks.h"
 #include "orl/html/evaluator.h"
 #include "orl/html/exception.h"
@@ -7,6 +8,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <unordered_map>
 
 namespace orl::html::core {
@@ -49,10 +51,14 @@ public:
     }
     Found findIn(NodeRec *top) override {
         if (parts_.empty()) return Predicate::findIn(top);
+        if (auto found = findBelow(top)) return *std::move(found);
         Found found = parts_.front()->findIn(top);
         for (std::size_t i = 1; i < parts_.size(); ++i)
             parts_[i]->filter(found);
         return found;
+    }
+    bool appendQuestion(std::string &question) const override {
+        return appendQuestionOfAll(question, '&', parts_);
     }
     void rootChanged() override {
         for (const PredicatePtr &part : parts_)
@@ -62,6 +68,30 @@ public:
 
 private:
     static Walk walkOf(const PredicatePtr &part) { return part->walk(); }
+
+    /// For ".x b", ".x .y" and the like, if the page has an index of its classes: what stands below elements
+    /// of the class ".x" is looked at, and nothing else.
+    std::optional<Found> findBelow(NodeRec *top) {
+        const ClassIndex *index = ClassIndex::of(top);
+        if (!index || !index->isOrdered()) return {};
+        const auto above = std::ranges::find_if(parts_, [](const auto &part) { return part->classAbove(); });
+        if (above == parts_.end()) return {};
+        // What may fail does so at every element for which it is asked, below one of the class or not.
+        const auto first = std::ranges::find(parts_, Walk::Tree, walkOf);
+        if (first != above) return {};
+
+        const ClassName &outer = *(*above)->classAbove();
+        const ClassName *inner = parts_.front()->className();
+        Found found = inner ? findBelowClass(*index, top, outer, *inner)
+                            : findBelowClass(*index, top, outer, [&](NodeRec *element) {
+                                  return std::all_of(parts_.begin(), above, [element](const auto &part) {
+                                      return part->holds(element);
+                                  });
+                              });
+        for (auto part = parts_.begin() + (inner ? 1 : 0); part != parts_.end(); ++part)
+            if (part > above || (inner && part < above)) (*part)->filter(found);
+        return found;
+    }
 
     std::vector<PredicatePtr> parts_;
 };
@@ -74,6 +104,9 @@ public:
     bool holds(NodeRec *element) override {
         return std::ranges::any_of(parts_,
                                    [element](const PredicatePtr &part) { return part->holds(element); });
+    }
+    bool appendQuestion(std::string &question) const override {
+        return appendQuestionOfAll(question, '|', parts_);
     }
     void rootChanged() override {
         for (const PredicatePtr &part : parts_)

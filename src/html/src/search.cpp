@@ -30,14 +30,8 @@ Pattern compiled(std::string_view regex) {
 
 namespace core {
 
-Elements asElements(const Found &found) {
-    std::vector<Element> all;
-    if (found.empty()) return all;
-    all.reserve(found.size());
-    holdAll(found.data(), found.size());
-    for (NodeRec *node : found)
-        all.emplace_back(node, Node::Held());
-    return all;
+Elements asElements(Found found) {
+    return Elements(SharedRefs(std::move(found)));
 }
 
 } // namespace core
@@ -164,7 +158,7 @@ Elements Elements::not_(std::string_view query) const {
 bool Elements::is(std::string_view query) const {
     const EvaluatorPtr evaluator = QueryParser::parse(query);
     Search search(*evaluator);
-    return std::ranges::any_of(this_, [&search](const Element &element) {
+    return std::ranges::any_of(*this, [&search](const Element &element) {
         const Element root = element.parent();
         if (!root) return false;
         search.setRoot(root.record());

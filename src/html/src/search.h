@@ -13,9 +13,9 @@ class Elements;
 
 namespace orl::html::core {
 
-using Found = std::vector<NodeRec *>;
+using Found = std::vector<Ref>;
 
-Elements asElements(const Found &found);
+Elements asElements(Found found);
 
 /// A tag name in lower case, compared with the normal names of elements.
 class TagName {
@@ -40,7 +40,7 @@ template<class Matches>
 Found findAll(NodeRec *root, Matches matches) {
     Found found;
     for (NodeRec *node = root; node; node = nextInTree(node, root))
-        if (isElement(node) && matches(node)) found.push_back(node);
+        if (isElement(node) && matches(node)) found.push_back(refOf(node));
     return found;
 }
 

@@ -25,7 +25,8 @@ namespace {
 
 constexpr std::size_t largestSpace = std::size_t(64) << 30;
 constexpr std::size_t maxGranules = largestSpace / granuleSize;
-constexpr std::size_t hotStock = std::size_t(64) << 20; ///< bytes kept ready for the next page
+constexpr std::size_t hotStock = std::size_t(64) << 20;               ///< bytes kept ready for the next page
+constexpr std::size_t longRun = (std::size_t(8) << 20) / granuleSize; ///< takes large pages if there are any
 constexpr std::size_t commitStep = (std::size_t(16) << 20) / granuleSize;
 
 /// The head of a granule that is cut into slots; it stands in the first slot.
@@ -61,6 +62,7 @@ private:
     void insert(std::size_t first, Run run);
     void erase(Runs::iterator run);
     void commit(std::size_t end);
+    static void askForLargePages(std::size_t first, std::size_t count);
     void link(SlotGranule *granule);
     void unlink(SlotGranule *granule);
 
@@ -102,6 +104,12 @@ void Space::commit(std::size_t end) {
     committed_ = wanted;
 }
 
+void Space::askForLargePages(std::size_t first, std::size_t count) {
+#ifdef MADV_HUGEPAGE
+    if (count >= longRun) madvise(granuleAddress(first), count * granuleSize, MADV_HUGEPAGE);
+#endif
+}
+
 void Space::insert(std::size_t first, Run run) {
     free_.emplace(first, run);
     bySize_[run.hot].emplace(run.count, first);
@@ -122,6 +130,7 @@ std::size_t Space::takeRun(std::size_t count) {
         commit(top_ + count);
         const std::size_t first = top_;
         top_ += count;
+        askForLargePages(first, count);
         return first;
     }
     const auto found = free_.find(fit->second);
@@ -129,6 +138,7 @@ std::size_t Space::takeRun(std::size_t count) {
     const Run run = found->second;
     erase(found);
     if (run.count > count) insert(first + count, {run.count - count, run.hot});
+    if (!run.hot) askForLargePages(first, count);
     return first;
 }
 

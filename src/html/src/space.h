@@ -4,7 +4,8 @@
 // The space is cut into granules of 64 KiB. A chunk of an arena is a run of granules, or, for the few nodes
 // that a caller makes on their own, a slot of 512 bytes in a granule that is cut into such slots. Runs that
 // come back are handed out again while they are still in the machine's memory, up to a bound; what is above
-// it is returned to the system.
+// it is returned to the system. Long runs ask the system for its large pages: the first touch of a small one
+// costs more than filling it with nodes does.
 #pragma once
 
 #include <cstddef>

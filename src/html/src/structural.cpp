@@ -1,6 +1,5 @@
 // The predicates that ask others: about the same element, those above it, beside it and below it.
 #include "class_index.h"
-#include "columns.h"
 #include "node_marks.h"
 #include "orl/html/evaluator.h"
 #include "orl/html/exception.h"
@@ -44,6 +43,9 @@ public:
         if (!answers_.isKnown(above)) answers_.set(above, inner_->holds(above));
         return answers_.get(above);
     }
+    bool appendQuestion(std::string &question) const override {
+        return appendQuestionOf(question, '>', *inner_);
+    }
     void rootChanged() override {
         inner_->rootChanged();
         answers_.clear();
@@ -70,13 +72,17 @@ public:
         if (!nearest) return false;
         // Most often the parent decides, or one of the next few above it.
         const bool cheap = inner_->traits.cheap;
-        if (cheap && inner_->holds(nearest)) return remember(nearest);
+        if (cheap && inner_->holds(nearest)) {
+            if (nearest->next && isOrdered()) keep(nearest, nearest->next);
+            return true;
+        }
         if (answers_.isKnown(nearest)) return answers_.get(nearest);
         NodeRec *above = cheap ? next(nearest) : nearest;
         int steps = 0;
         for (; above && !answers_.isKnown(above); above = next(above), ++steps) {
             if (!inner_->holds(above)) continue;
-            if (remember(above) && cheap && steps < few) return true;
+            remember(above);
+            if (cheap && steps < few) return true;
             break;
         }
         const bool answer = above && (!answers_.isKnown(above) || answers_.get(above));
@@ -87,19 +93,9 @@ public:
         }
         return answer;
     }
-    /// Many elements, and an inner predicate that finds its own fast: what stands inside one of those stays.
-    void filter(Found &elements) override {
-        if (elements.size() < many || inner_->walk() != Walk::Index || !isOrdered() ||
-            putClassColumnOff(*ClassIndex::of(scope_.root)))
-            return Predicate::filter(elements);
-        const Found outer = inner_->findIn(scope_.root);
-        auto next = outer.begin();
-        Ref end = 0; // of the last of them that is in no other
-        std::erase_if(elements, [&](const NodeRec *element) {
-            for (; next != outer.end() && refOf(*next) < refOf(element); ++next)
-                if (refOf(*next) >= end) end = ClassIndex::endOf(*next);
-            return refOf(element) >= end;
-        });
+    const ClassName *classAbove() const override { return inner_->className(); }
+    bool appendQuestion(std::string &question) const override {
+        return appendQuestionOf(question, '^', *inner_);
     }
     void rootChanged() override {
         inner_->rootChanged();
@@ -110,7 +106,6 @@ public:
 
 private:
     enum class Order { Unasked, None, OfAddresses };
-    static constexpr std::size_t many = 64;
     static constexpr int few = 8; ///< steps that cost less than keeping what they tell
 
     NodeRec *next(NodeRec *element) const { return element == scope_.root ? nullptr : parentOf(element); }
@@ -123,21 +118,22 @@ private:
         return order_ == Order::OfAddresses;
     }
 
+    void keep(const NodeRec *match, Ref end) {
+        match_ = refOf(match);
+        matchEnd_ = end;
+    }
     /// Keeps the match and where it ends, if that is near.
-    bool remember(const NodeRec *match) {
-        if (!isOrdered()) return true;
-        match_ = matchEnd_ = 0;
+    void remember(const NodeRec *match) {
+        if (!isOrdered()) return;
         const NodeRec *node = match;
         for (int steps = 0; steps < few && !node->next; ++steps) {
-            if (!node->parent) {
-                matchEnd_ = std::numeric_limits<Ref>::max();
-                break;
-            }
+            if (!node->parent) return keep(match, std::numeric_limits<Ref>::max());
             node = parent(node);
         }
-        if (node->next) matchEnd_ = node->next;
-        match_ = matchEnd_ ? refOf(match) : 0;
-        return true;
+        if (node->next)
+            keep(match, node->next);
+        else
+            match_ = matchEnd_ = 0;
     }
 
     PredicatePtr inner_;
@@ -170,6 +166,9 @@ public:
             if (!progress.found) progress.next = nextElement(progress.next);
         }
         return progress.found && siblingIndex(progress.next) < place;
+    }
+    bool appendQuestion(std::string &question) const override {
+        return appendQuestionOf(question, '~', *inner_);
     }
     void rootChanged() override {
         inner_->rootChanged();
@@ -211,6 +210,9 @@ public:
         NodeRec *before = element == scope_.root ? nullptr : previousElement(element);
         return before && inner_->holds(before);
     }
+    bool appendQuestion(std::string &question) const override {
+        return appendQuestionOf(question, '+', *inner_);
+    }
     void rootChanged() override { inner_->rootChanged(); }
 
 private:
@@ -224,6 +226,9 @@ public:
         : Predicate({.growing = scopeFree, .cheap = inner->traits.cheap}), inner_(std::move(inner)) {}
 
     bool holds(NodeRec *element) override { return !inner_->holds(element); }
+    bool appendQuestion(std::string &question) const override {
+        return appendQuestionOf(question, '!', *inner_);
+    }
     void rootChanged() override { inner_->rootChanged(); }
 
 private:

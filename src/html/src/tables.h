@@ -1,6 +1,7 @@
 // What an arena holds beside its nodes, for the few pages that need it.
 #pragma once
 
+#include "answers.h"
 #include "columns.h"
 #include "core.h"
 
@@ -19,14 +20,15 @@ using FormList = std::vector<NodeRec *>;
 struct ChildIndex {
     const NodeRec *parent = nullptr;
     std::uint64_t version = 0;
-    std::vector<NodeRec *> nodes;
-    std::vector<NodeRec *> elements;
+    std::vector<Ref> nodes;
+    std::vector<Ref> elements;
     std::vector<std::uint32_t> elementPlaces; ///< of each node: how many elements stand before it
 };
 
 struct Arena::Tables {
     ChildIndex children;
     Columns columns;
+    Answers answers;
     std::unordered_map<const NodeRec *, std::shared_ptr<FormList>> forms;
     std::unordered_map<const NodeRec *, std::string_view> baseUris;
     std::unordered_map<const NodeRec *, std::uint64_t> moreHolders;

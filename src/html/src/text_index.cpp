@@ -2,12 +2,13 @@
 
 #include "attr_value.h"
 #include "output.h"
+#include "pile.h"
 #include "text.h"
 #include "utf8.h"
 
 #include <algorithm>
-#include <optional>
-#include <vector>
+#include <cstdint>
+#include <limits>
 
 namespace orl::html::core {
 
@@ -20,36 +21,35 @@ constexpr int fewElements = 4;
 class TextIndex {
 public:
     struct Stretch {
-        NodeRec *element;
-        std::size_t start, end;
+        Ref element;
+        std::uint32_t start, end;
     };
 
-    /// Nothing if the lower case of a stretch depends on what is around it, as that of a sigma does.
-    static std::optional<TextIndex> of(NodeRec *root) {
-        TextIndex index;
+    /// False if the lower case of a stretch depends on what is around it, as that of a sigma does, and for
+    /// 4 GiB of text.
+    bool read(NodeRec *root) {
         for (NodeRec *node = root; node;) {
-            index.enter(node);
+            enter(node);
             if (NodeRec *child = firstChild(node)) {
                 node = child;
                 continue;
             }
-            index.leave(node);
+            leave(node);
             while (node != root && !node->next) {
                 node = parent(node);
-                index.leave(node);
+                leave(node);
             }
             node = node == root ? nullptr : nextSibling(node);
         }
-        if (index.hasSigma_) return {};
-        return index;
+        return !hasSigma_ && text_.size() < none;
     }
 
     const std::string &text() const { return text_; }
-    const std::vector<Stretch> &stretches() const { return stretches_; }
+    const Pile<Stretch> &stretches() const { return stretches_; }
 
 private:
     static constexpr std::string_view capitalSigma = "\xce\xa3";
-    static constexpr auto none = std::string_view::npos;
+    static constexpr auto none = std::numeric_limits<std::uint32_t>::max();
 
     bool endsWithBlank() const { return !text_.empty() && text_.back() == ' '; }
 
@@ -57,8 +57,8 @@ private:
         if (isText(node)) return append(node);
         if (!isElement(node)) return;
         if (breaksText(tagOf(node)) && !text_.empty() && !endsWithBlank()) text_ += ' ';
-        open_.push_back(stretches_.size());
-        stretches_.push_back({node, none, 0});
+        open_.push_back(std::uint32_t(stretches_.size()));
+        stretches_.push_back({refOf(node), none, 0});
     }
 
     void leave(const NodeRec *node) {
@@ -66,7 +66,7 @@ private:
         Stretch &stretch = stretches_[open_.back()];
         open_.pop_back();
         const bool isEmpty = stretch.start == none;
-        if (isEmpty) stretch.start = text_.size();
+        if (isEmpty) stretch.start = std::uint32_t(text_.size());
         stretch.end = isEmpty ? stretch.start : solidEnd_;
         started_ = std::min(started_, open_.size());
     }
@@ -74,23 +74,23 @@ private:
     void append(const NodeRec *node) {
         Output piece;
         appendTextNode(piece, node, preservesWhitespace(parentOf(node)), endsWithBlank());
-        hasSigma_ = hasSigma_ || findText(piece.view(), capitalSigma) != none;
+        hasSigma_ = hasSigma_ || findText(piece.view(), capitalSigma) != std::string_view::npos;
         const std::string lower = lowerCase(piece.view());
         const std::string_view solid = trimmed(lower);
         if (!solid.empty()) {
             const std::size_t start = text_.size() + std::size_t(solid.data() - lower.data());
             for (; started_ < open_.size(); ++started_)
-                stretches_[open_[started_]].start = start;
-            solidEnd_ = start + solid.size();
+                stretches_[open_[started_]].start = std::uint32_t(start);
+            solidEnd_ = std::uint32_t(start + solid.size());
         }
         text_ += lower;
     }
 
     std::string text_;
-    std::vector<Stretch> stretches_;
-    std::vector<std::size_t> open_; ///< the stretches of the elements around the node at hand
-    std::size_t started_ = 0;       ///< so many of them, the outer ones, have some text already
-    std::size_t solidEnd_ = 0;      ///< where the last character stands that is no white space
+    Pile<Stretch> stretches_;
+    Pile<std::uint32_t> open_;   ///< the stretches of the elements around the node at hand
+    std::size_t started_ = 0;    ///< so many of them, the outer ones, have some text already
+    std::uint32_t solidEnd_ = 0; ///< where the last character stands that is no white space
     bool hasSigma_ = false;
 };
 
@@ -109,15 +109,15 @@ bool TextPredicate::look(const NodeRec *element) const {
 }
 
 void TextPredicate::lookAtAll() {
-    const auto index = scope_.root ? TextIndex::of(scope_.root) : std::nullopt;
-    if (!index) return;
+    TextIndex index;
+    if (!scope_.root || !index.read(scope_.root)) return;
     // Where the text is found next. Stretches that are not empty start further and further on.
-    std::size_t next = findText(index->text(), wanted_);
-    for (const auto &stretch : index->stretches()) {
+    std::size_t next = findText(index.text(), wanted_);
+    for (const auto &stretch : index.stretches()) {
         if (next != std::string::npos && next < stretch.start)
-            next = findText(index->text(), wanted_, stretch.start);
+            next = findText(index.text(), wanted_, stretch.start);
         const bool inside = next != std::string::npos && next + wanted_.size() <= stretch.end;
-        answers_.set(stretch.element, inside || wanted_.empty());
+        answers_.set(at<NodeRec>(stretch.element), inside || wanted_.empty());
     }
 }
 

@@ -22,10 +22,12 @@ const ChildIndex &childIndex(NodeRec *parent) {
     index.nodes.clear();
     index.elements.clear();
     index.elementPlaces.clear();
+    index.nodes.reserve(childCount(parent));
+    index.elementPlaces.reserve(childCount(parent));
     for (NodeRec *child = firstChild(parent); child; child = nextSibling(child)) {
-        index.nodes.push_back(child);
+        index.nodes.push_back(refOf(child));
         index.elementPlaces.push_back(std::uint32_t(index.elements.size()));
-        if (isElement(child)) index.elements.push_back(child);
+        if (isElement(child)) index.elements.push_back(refOf(child));
     }
     return index;
 }
@@ -105,7 +107,7 @@ NodeRec *childNodeAt(NodeRec *parent, std::size_t index) {
         if (i == index) return child;
     if (!child) return nullptr;
     const ChildIndex &children = childIndex(parent);
-    return index < children.nodes.size() ? children.nodes[index] : nullptr;
+    return index < children.nodes.size() ? at<NodeRec>(children.nodes[index]) : nullptr;
 }
 
 NodeRec *childElementAt(NodeRec *parent, std::size_t index) {
@@ -114,7 +116,7 @@ NodeRec *childElementAt(NodeRec *parent, std::size_t index) {
         if (i == index) return child;
     if (!child) return nullptr;
     const ChildIndex &children = childIndex(parent);
-    return index < children.elements.size() ? children.elements[index] : nullptr;
+    return index < children.elements.size() ? at<NodeRec>(children.elements[index]) : nullptr;
 }
 
 std::size_t elementIndex(NodeRec *element) {

@@ -34,9 +34,20 @@ FocusScope {
             width: ListView.view.width
             onExportTapped: entry => root.view.tapExport(entry)
         }
-        footer: Item {
-            objectName: "lastItem"
-            implicitHeight: Theme.space4
+        footer: Column {
+            width: list.width
+            topPadding: chatBanner.height > 0 ? Theme.space4 : 0
+            Loader {
+                id: chatBanner
+                width: parent.width * 0.75
+                active: Ads.places !== null
+                sourceComponent: AdBanner { banner: Ads.places.chatBanner(chatBanner) }
+            }
+            Item {
+                objectName: "lastItem"
+                width: 1
+                height: Theme.space4
+            }
         }
 
         NumberAnimation {
@@ -67,9 +78,14 @@ FocusScope {
         title: "No messages here yet..."
         sentence: "Please wait a couple of minutes!"
     }
+    AnchoredBanner {
+        id: banner
+        anchors.bottom: parent.bottom
+        width: parent.width
+    }
     Rectangle {
         id: input
-        anchors.bottom: parent.bottom
+        anchors.bottom: banner.top
         width: parent.width
         height: row.implicitHeight + 2 * Theme.space2
         color: Theme.bar

@@ -20,11 +20,16 @@ Item {
         }
         CountryList {
             anchors.top: bar.bottom
-            anchors.bottom: parent.bottom
+            anchors.bottom: banner.top
             anchors.horizontalCenter: parent.horizontalCenter
             width: Math.min(parent.width, Theme.columnWidth)
             focus: true
             view: root.view
+        }
+        AnchoredBanner {
+            id: banner
+            anchors.bottom: parent.bottom
+            width: parent.width
         }
     }
     SlideOver {

@@ -1,6 +1,7 @@
 // Delegates reach the screen by its id, which this lint takes for a name from nowhere.
 // qmllint disable unqualified
 import QtQuick
+import Qt.labs.qmlmodels
 import Orl.Screens
 
 // The first tab: the number, its messages, and other numbers of the country.
@@ -37,17 +38,18 @@ Item {
         }
         onMovementStarted: atTop = false
         onMovementEnded: atTop = atYBeginning
-        onCountChanged: settle.restart()
+        // A page that brings as many rows as it takes away leaves the count alone.
+        onOriginYChanged: settle.restart()
+        onContentHeightChanged: settle.restart()
         onWidthChanged: settle.restart()
         Component.onCompleted: layOut()
         anchors.top: parent.top
-        anchors.bottom: parent.bottom
+        anchors.bottom: banner.top
         anchors.horizontalCenter: parent.horizontalCenter
         width: Math.min(parent.width, Theme.columnWidth) - 2 * Theme.margin
         visible: !countries.covers
         enabled: !root.view.countriesPresented
         focus: true
-        spacing: Theme.space2
         cacheBuffer: 4 * Theme.phoneHeight
         boundsBehavior: Flickable.StopAtBounds
         header: HomeHeader {
@@ -71,20 +73,38 @@ Item {
         Accessible.role: Accessible.List
         Accessible.name: "Messages"
     }
-    Component {
+    DelegateChooser {
         id: messageCard
-        MessageCard {
-            width: ListView.view.width
-            onExportTapped: entry => root.view.tapExport(entry)
+        role: "slot"
+        DelegateChoice {
+            roleValue: ""
+            MessageCard {
+                width: ListView.view.width
+                gap: Theme.space2
+                onExportTapped: entry => root.view.tapExport(entry)
+            }
         }
+        DelegateChoice { NativeAdSlot { width: ListView.view.width } }
     }
-    Component {
+    DelegateChooser {
         id: senderCard
-        SenderCard {
-            required property int index
-            width: ListView.view.width
-            onClicked: root.view.tapSender(index)
+        role: "slot"
+        DelegateChoice {
+            roleValue: ""
+            SenderCard {
+                required property int index
+                width: ListView.view.width
+                gap: Theme.space2
+                onClicked: root.view.tapSender(index)
+            }
         }
+        DelegateChoice { NativeAdSlot { width: ListView.view.width } }
+    }
+    AnchoredBanner {
+        id: banner
+        anchors.bottom: parent.bottom
+        width: parent.width
+        visible: list.visible
     }
     NumberChoiceDialogs {
         anchors.fill: parent

@@ -94,11 +94,9 @@ FocusScope {
                     visible: list.count === 0
                     progress: root.view.progress
                 }
-                Loader {
+                NativeAdSlot {
                     width: parent.width
-                    active: root.view.nativeAd
-                    visible: active
-                    sourceComponent: NativeAdCard { view: root.view.nativeAd }
+                    slot: "tmail_results"
                 }
             }
             Accessible.role: Accessible.List

@@ -9,6 +9,10 @@ T.ApplicationWindow {
     id: root
     required property ContentView content
     property ReviewPrompt reviewPrompt: null
+    property FullScreenAdView fullScreenAd: null
+    property StoredQuestion trackingQuestion: null
+    property StoredQuestion consentQuestion: null
+    readonly property bool adIsUp: fullScreenAd !== null && fullScreenAd.isUp
 
     title: "orl"
     width: Theme.phoneWidth
@@ -25,11 +29,13 @@ T.ApplicationWindow {
     Binding { target: Theme; property: "dark"; value: root.content.appearance.dark }
     Binding { target: Theme; property: "textScale"; value: root.content.appearance.textScale }
     Binding { target: Theme; property: "reducedMotion"; value: root.content.appearance.reducedMotion }
+    Binding { target: Ads; property: "places"; value: root.content.adPlaces }
     Binding { target: Theme; property: "keyboardInUse"; value: root.content.appearance.keyboardInUse }
 
     FullSwipePop {
         anchors.fill: parent
-        focus: true
+        enabled: !root.adIsUp
+        focus: !root.adIsUp
         helper: root.content.swipe
         content: ConversationScreen { view: root.content.conversation }
 
@@ -67,5 +73,23 @@ T.ApplicationWindow {
     Loader {
         active: root.reviewPrompt !== null && root.reviewPrompt.isPresented
         sourceComponent: ReviewSheet { prompt: root.reviewPrompt }
+    }
+    Loader {
+        active: root.trackingQuestion !== null && root.trackingQuestion.isAsked
+        sourceComponent: TrackingSheet {
+            question: root.trackingQuestion
+            displayName: root.content.splash.displayName
+        }
+    }
+    Loader {
+        active: root.consentQuestion !== null && root.consentQuestion.isAsked
+        sourceComponent: ConsentSheet { question: root.consentQuestion }
+    }
+    Loader {
+        anchors.fill: parent
+        z: 2
+        active: root.adIsUp
+        focus: active
+        sourceComponent: FullScreenAd { view: root.fullScreenAd }
     }
 }

@@ -14,7 +14,8 @@ FocusScope {
         anchors.bottom: bar.top
         anchors.left: parent.left
         anchors.right: parent.right
-        focus: true
+        enabled: !card.covers
+        focus: !card.covers
 
         TabPage {
             index: 0
@@ -29,10 +30,7 @@ FocusScope {
         TabPage {
             index: 2
             selectedIndex: root.view.selectedIndex
-            sourceComponent: Unavailable {
-                title: "Identity"
-                sentence: "The identity service is not available in this build."
-            }
+            sourceComponent: FakeGeneratorScreen { view: root.view.fakeGenerator }
         }
         TabPage {
             index: 3
@@ -44,8 +42,18 @@ FocusScope {
         id: bar
         anchors.bottom: parent.bottom
         width: parent.width
+        enabled: !card.covers
         tabs: root.view.tabs
         selectedIndex: root.view.selectedIndex
         onSelected: index => root.view.select(index)
+    }
+    // The native card above the tabs, which the user closes.
+    Loader {
+        id: card
+        readonly property bool covers: item !== null && item.view.isPresented
+        anchors.fill: parent
+        active: Ads.places !== null && Ads.places.nativeAdEnabled
+        focus: covers
+        sourceComponent: NativeAdXMark { view: Ads.places.homeCard(card) }
     }
 }

@@ -5,8 +5,9 @@ import QtQuick.Layouts
 import Orl.Screens
 
 // One message with what can be lifted out of it.
-Card {
+Item {
     id: root
+    property int gap: 0 // below the card; a list has no spacing where a row may take no room
     required property string sender
     required property string content
     required property string age
@@ -14,10 +15,14 @@ Card {
     required property avatarFace face
     signal exportTapped(string entry)
 
-    implicitHeight: column.implicitHeight + 2 * Theme.space4
+    implicitHeight: column.implicitHeight + 2 * Theme.space4 + gap
     Accessible.role: Accessible.ListItem
     Accessible.name: sender + ", " + age + ": " + content
 
+    Card {
+        anchors.fill: parent
+        anchors.bottomMargin: root.gap
+    }
     ColumnLayout {
         id: column
         anchors.left: parent.left

@@ -5,9 +5,12 @@ import Orl.Screens
 
 // A native card, or the banner that stands in for it, over the whole screen. While there is none, touches go
 // to the screens below.
-Item {
+FocusScope {
     id: root
     required property NativeAdView_XMARK view
+
+    Keys.onEscapePressed: if (view.showXMark) view.close()
+    Keys.onBackPressed: if (view.showXMark) view.close()
 
     visible: opacity > 0
     opacity: 0
@@ -63,6 +66,7 @@ Item {
             symbol: "x-lg"
             opacity: root.view.showXMark ? 1 : 0
             enabled: root.view.showXMark
+            focus: true
             onClicked: root.view.close()
         }
     }

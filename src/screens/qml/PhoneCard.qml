@@ -84,5 +84,9 @@ Pressable {
                 Layout.fillWidth: true
             }
         }
+        BlackBannerPlace {
+            Layout.fillWidth: true
+            Layout.topMargin: Theme.space2
+        }
     }
 }

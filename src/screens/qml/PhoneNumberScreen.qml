@@ -14,7 +14,7 @@ Item {
     ListView {
         id: list
         anchors.top: bar.bottom
-        anchors.bottom: parent.bottom
+        anchors.bottom: banner.top
         anchors.horizontalCenter: parent.horizontalCenter
         width: Math.min(parent.width, Theme.columnWidth) - 2 * Theme.margin
         visible: root.view.state === PhoneNumberView.Numbers
@@ -64,6 +64,11 @@ Item {
         title: root.view.countryName
         flag: root.view.flag
         onBackTapped: root.backTapped()
+    }
+    AnchoredBanner {
+        id: banner
+        anchors.bottom: parent.bottom
+        width: parent.width
     }
     NumberChoiceDialogs {
         anchors.fill: parent

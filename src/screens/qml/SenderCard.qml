@@ -5,6 +5,7 @@ import Orl.Screens
 // The messages of one sender in a row: who, the last one, when, and how many are unseen. Opens the conversation.
 Pressable {
     id: root
+    property int gap: 0 // below the card, as in MessageCard
     required property string name
     required property string content
     required property string time
@@ -14,6 +15,8 @@ Pressable {
     text: name + ", " + time + ": " + content
     cornerRadius: Theme.cardRadius
     padding: Theme.space3
+    bottomPadding: padding + gap
+    bottomInset: gap
     leftPadding: Theme.space4
     rightPadding: Theme.space4
     Accessible.description: unseen === "" ? "" : unseen + " unread"

@@ -179,7 +179,6 @@ public:
     Element copy() const { return Node::copy().as<Element>(); }
 
     explicit Element(core::NodeRec *record) : Node(record) {}
-    Element(core::NodeRec *record, Held held) : Node(record, held) {}
     static bool isKindOf(const core::NodeRec *record);
 };
 

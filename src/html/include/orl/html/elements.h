@@ -2,29 +2,86 @@
 
 #include <orl/html/element.h>
 #include <orl/html/export.h>
+#include <orl/html/node_list.h>
 #include <orl/html/ordered_set.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <initializer_list>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace orl::html {
 
+/// A place in a list, right until the list changes. The handle that it gives costs nothing, as the list keeps
+/// the element, and is the iterator's own: it is another one when the iterator moves. A copy of it is a
+/// handle like any other.
+class ORL_HTML_API ElementsIterator {
+public:
+    using iterator_category = std::input_iterator_tag;
+    using value_type = Element;
+    using difference_type = std::ptrdiff_t;
+    using reference = const Element &;
+    using pointer = const Element *;
+
+    ElementsIterator() : ElementsIterator(nullptr) {}
+    ElementsIterator(const ElementsIterator &other) : ElementsIterator(other.ref_) {}
+    ElementsIterator &operator=(const ElementsIterator &other) {
+        ref_ = other.ref_;
+        return *this;
+    }
+    ~ElementsIterator() {}
+
+    const Element &operator*() const;
+    const Element *operator->() const { return &**this; }
+
+    ElementsIterator &operator++() { return *this += 1; }
+    ElementsIterator &operator--() { return *this -= 1; }
+    ElementsIterator operator++(int) { return {ref_++}; }
+    ElementsIterator operator--(int) { return {ref_--}; }
+    ElementsIterator &operator+=(difference_type n) {
+        ref_ += n;
+        return *this;
+    }
+    ElementsIterator &operator-=(difference_type n) { return *this += -n; }
+    friend ElementsIterator operator+(ElementsIterator at, difference_type n) { return at += n; }
+    friend ElementsIterator operator-(ElementsIterator at, difference_type n) { return at -= n; }
+    friend difference_type operator-(const ElementsIterator &left, const ElementsIterator &right) {
+        return left.ref_ - right.ref_;
+    }
+    friend bool operator==(const ElementsIterator &left, const ElementsIterator &right) {
+        return left.ref_ == right.ref_;
+    }
+
+private:
+    friend class Elements;
+
+    ElementsIterator(const std::uint32_t *ref) : ref_(ref), element_() {}
+
+    const std::uint32_t *ref_;
+    union {
+        mutable Element element_; ///< never destroyed: it is not counted
+    };
+};
+
 /// An ordered list of elements, a value: copying it copies the list, not the elements. An element may stand
 /// in several lists and several times in one; as long as it does it is held.
+///
+/// A list that was found costs four bytes an element, in common to its copies; handles are made as elements
+/// are taken out. Walking along a list makes none.
 ///
 /// Operations on "each" run over the entries in order and give the list back. They stop at the first entry
 /// that fails, with its failure; the entries before it stay changed.
 class ORL_HTML_API Elements {
 public:
     using value_type = Element;
-    using const_iterator = std::vector<Element>::const_iterator;
+    using const_iterator = ElementsIterator;
 
     Elements() = default;
-    Elements(std::vector<Element> elements) : this_(std::move(elements)) {}
-    Elements(std::initializer_list<Element> elements) : this_(elements) {}
+    Elements(const std::vector<Element> &elements);
+    Elements(std::initializer_list<Element> elements);
     explicit Elements(const OrderedSet<Element> &elements);
 
     /// Deep copies of the elements.
@@ -76,34 +133,40 @@ public:
     Elements eq(std::size_t index) const;
     /// All parents of all entries, each once, first seen first.
     Elements parents() const;
-    Element first() const { return this_.empty() ? Element() : this_.front(); }
-    Element last() const { return this_.empty() ? Element() : this_.back(); }
-    bool isEmpty() const { return this_.empty(); }
-    std::size_t size() const { return this_.size(); }
+    Element first() const { return isEmpty() ? Element() : get(0); }
+    Element last() const { return isEmpty() ? Element() : get(size() - 1); }
+    bool isEmpty() const { return this_.refs().empty(); }
+    std::size_t size() const { return this_.refs().size(); }
     const Elements &traverse(NodeVisitor &visitor) const;
     std::vector<FormElement> forms() const;
 
-    void add(Element element) { this_.push_back(std::move(element)); }
+    void add(const Element &element) { add(size(), element); }
     /// The place must not be past the end.
-    void add(std::size_t index, Element element);
-    const Element &get(std::size_t index) const { return this_[index]; }
-    const std::vector<Element> &array() const { return this_; }
+    void add(std::size_t index, const Element &element) { this_.insert(index, element.record()); }
+    /// The place must exist.
+    Element get(std::size_t index) const;
+    std::vector<Element> array() const;
 
     std::size_t startIndex() const { return 0; }
     std::size_t endIndex() const { return size(); }
-    const Element &operator[](std::size_t index) const { return this_[index]; }
-    const_iterator begin() const { return this_.begin(); }
-    const_iterator end() const { return this_.end(); }
+    Element operator[](std::size_t index) const { return get(index); }
+    const_iterator begin() const { return this_.refs().begin(); }
+    const_iterator end() const { return this_.refs().end(); }
 
     /// The same elements in the same order.
-    friend bool operator==(const Elements &, const Elements &) = default;
+    friend bool operator==(const Elements &left, const Elements &right) {
+        return left.this_.refs() == right.this_.refs();
+    }
     std::size_t hashValue() const;
 
     /// The entries of `elements` that are none of `outs`.
     static Elements filterOut(const Elements &elements, const Elements &outs);
 
+    /// For the engine's own use: nodes of one arena, which are elements.
+    explicit Elements(core::SharedRefs found) : this_(std::move(found)) {}
+
 private:
-    std::vector<Element> this_;
+    core::NodeList this_;
 };
 
 } // namespace orl::html

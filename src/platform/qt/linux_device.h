@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/device.h"
+
+#include <QString>
+
+namespace orl {
+
+/// Knows a tablet by what the machine says of its chassis: the administrator's word in /etc/machine-info,
+/// else the firmware's. A machine that says nothing is no tablet.
+class LinuxDevice final : public Device {
+public:
+    /// `root` is where the file system begins.
+    explicit LinuxDevice(QString root = QString()) : root_(std::move(root)) {}
+
+    bool isTablet() const override;
+
+private:
+    const QString root_;
+};
+
+} // namespace orl

@@ -1,0 +1,47 @@
+import QtQuick
+import QtQuick.Layouts
+import Orl.Screens
+
+// What is only looked at.
+ColumnLayout {
+    id: root
+    required property Gallery gallery
+
+    spacing: 0
+    Layout.fillWidth: true
+
+    GallerySection {
+        title: "Signs"
+        Layout.fillWidth: true
+        RowLayout {
+            spacing: Theme.space3
+            Flag { code: "no" }
+            Flag { code: "unknown" }
+            Avatar { face: root.gallery.face }
+            SignalBars { bars: 2 }
+            SignalBars { bars: 5 }
+            Badge { text: "3" }
+            Badge { text: "128" }
+            AdChip {}
+        }
+    }
+    GallerySection {
+        title: "Waiting"
+        Layout.fillWidth: true
+        RowLayout {
+            spacing: Theme.space5
+            Spinner {}
+            Progress {}
+            MessageLoader {}
+        }
+        NumberSkeleton { Layout.fillWidth: true }
+    }
+    GallerySection {
+        title: "States"
+        Layout.fillWidth: true
+        NoInternet { Layout.fillWidth: true }
+        Error404 { Layout.fillWidth: true }
+        StateMessage { drawing: "no_history"; title: "No numbers yet"; sentence: "The numbers that you choose are kept here, so that you find them again."; Layout.fillWidth: true }
+        StateMessage { busy: true; sentence: "Fetching..."; Layout.fillWidth: true }
+    }
+}
