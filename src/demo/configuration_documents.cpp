@@ -86,6 +86,17 @@ Reply icon(const QString &fileName) {
 
 } // namespace
 
+ConfigurationValues livelyConfiguration() {
+    ConfigurationValues values;
+    values.bannerAdEnabled = values.openAdEnabled = values.rewardAdEnabled = values.nativeAdEnabled =
+        values.interstitialAdEnabled = true;
+    values.showFullAdAfter = 6;
+    values.useXmarkNative = true;
+    values.bannerIsActive = values.bannerOnNumberCard = true;
+    values.bannerRandomDisplay = {true, false, false};
+    return values;
+}
+
 Reply ConfigurationDocuments::answer(const Request &request) const {
     static const QString icons = u"/KeLo/OnlineSMS/SendersIcon/"_s;
     if (request.path == u"/KeLo/iOS/orl_config.json"_s) return configuration();

@@ -10,7 +10,7 @@
 
 namespace orl::demo {
 
-/// The switches in "orl_config.json". All advertising is off until the demo host serves ads.
+/// The switches in "orl_config.json". All advertising is off at first.
 struct ConfigurationValues {
     std::optional<QString> pendingVersion;
     bool ipadAdEnabled = false;
@@ -25,6 +25,9 @@ struct ConfigurationValues {
     bool bannerOnNumberCard = false;
     QList<bool> bannerRandomDisplay{false};
 };
+
+/// All advertising on: what a user meets.
+ConfigurationValues livelyConfiguration();
 
 /// The configuration host: the two configuration documents, the lists of icons and of the second website's
 /// countries, and the senders' icons.

@@ -45,6 +45,7 @@ Result<std::shared_ptr<EndpointsInForce>> EndpointsInForce::open(const QString &
         if (!(endpoints.*kind).isEmpty()) continue;
         if (!inForce->demoHost_) {
             inForce->demoHost_ = std::make_unique<DemoHost>();
+            inForce->demoHost_->setConfiguration(demo::livelyConfiguration());
             if (!inForce->demoHost_->start())
                 return Error{QStringLiteral("the demo host found no free port on 127.0.0.1")};
         }

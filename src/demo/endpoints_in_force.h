@@ -10,7 +10,8 @@ namespace orl {
 class DemoHost;
 
 /// The endpoints of this run of the program: those of a file where one is named, else those of the build. The
-/// demo host, started inside the program only when it is needed, stands behind each one that is empty.
+/// demo host, started inside the program only when it is needed and with all its advertising on, stands
+/// behind each one that is empty.
 class EndpointsInForce {
 public:
     /// `file` empty: the file that ORL_ENDPOINTS names, if any. An error tells what is wrong with the file,

@@ -24,6 +24,7 @@ namespace orl {
 
 void Walker::SetUp() {
     ASSERT_EQ(desk.problem().toStdString(), "");
+    ASSERT_TRUE(quietHost.start());
     QDir().mkpath(walkSetup.pictureFolder);
 }
 
@@ -51,7 +52,8 @@ void Walker::waitForTheSplash() {
 }
 
 void Walker::startProgram(const QStringList &options) {
-    ASSERT_NO_FATAL_FAILURE(launch(options));
+    const bool served = options.contains(QStringLiteral("--endpoints"));
+    ASSERT_NO_FATAL_FAILURE(launch(served ? options : servedBy(quietHost) + options));
     const Fits splash = named(QStringLiteral("Virtual Phone Numbers"));
     const Fits question = [](const Accessible &control) {
         return control.name() == QStringLiteral("Continue") ||

@@ -32,7 +32,8 @@ protected:
 
     /// Until its window is there.
     void launch(const QStringList &options = {});
-    /// Until it can be used. What it asks a new user is answered with no.
+    /// Until it can be used, served without ads unless the options name a host. What it asks a new user is
+    /// answered with no.
     void startProgram(const QStringList &options = {});
     /// The options that have the program served by this host, which has started, in the place of the one
     /// within.
@@ -96,6 +97,7 @@ protected:
     static Fits code();
 
     Desk desk;
+    DemoHost quietHost; ///< has all advertising off
     QTemporaryDir data;
     std::unique_ptr<QProcess> program;
     QSize window{390, 844};

@@ -499,6 +499,15 @@ TEST(LifetimeTest, AListKeepsWhatLeavesTheTree) {
     more.empty();
     EXPECT_EQ(more.text() + below.text(), "6");
     EXPECT_EQ(below.first().parent(), more[1]);
+    Element inner;
+    {
+        const Elements gone = document.body().html("<u><s>7</s></u>").select("u");
+        for (const Element &u : gone)
+            u.remove();
+        inner = gone[0].child(0);
+        EXPECT_EQ(inner.parent(), gone.begin()->child(0).parent());
+    }
+    EXPECT_FALSE(inner.parent());
 }
 
 TEST(LifetimeTest, ListsOutliveTheirTreesAndMergeWithThem) {

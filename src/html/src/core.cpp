@@ -461,6 +461,8 @@ void dropIfUnheld(NodeRec *node) {
 }
 
 void leaveParent(NodeRec *node) {
+    // A list does not look whether a node has a parent when it lets go of the arena.
+    if (isLinked(node)) arenaOf(node).countLists();
     if (!isLinked(node) && node->parent) --arenaOf(node).dropped_;
     detach(node);
 }

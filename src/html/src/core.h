@@ -494,8 +494,8 @@ private:
     NodeRec *newNode();
     const TagRec *dynamicTag(std::string_view name, std::uint16_t flags, const TagRec *like);
     void reclaim(NodeRec *root);
-    /// Lets the lists that keep the arena be counted in their nodes. Before nodes go, as who holds which of
-    /// them decides what goes.
+    /// Lets the lists that keep the arena be counted in their nodes. Before a caller takes nodes out of their
+    /// parents, and before nodes go, as who holds which of them decides what goes.
     void countLists();
     void mergeLists(Arena &goes);
     void freeNode(NodeRec *node, std::vector<NodeRec *> &orphans);

@@ -23,8 +23,13 @@ std::string lines(const Elements &elements, Part part) {
 
 } // namespace
 
-Element ElementsIterator::operator*() const {
-    return Element(core::nodeAt(*ref_));
+const Element &ElementsIterator::operator*() const {
+    element_.borrow(core::nodeAt(*ref_));
+    return element_;
+}
+
+Element Elements::get(std::size_t index) const {
+    return Element(core::nodeAt(this_.refs()[index]));
 }
 
 Elements::Elements(const std::vector<Element> &elements) {

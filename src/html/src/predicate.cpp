@@ -87,10 +87,10 @@ void Search::setRoot(NodeRec *root) {
 /// The answers about a whole tree are kept: those are the searches that take long.
 SharedRefs Search::run() {
     Arena &arena = arenaOf(scope_.root);
+    if (scope_.root->parent || arena.isLoose()) return SharedRefs(find());
     std::string question;
     question.reserve(100);
-    if (scope_.root->parent || arena.isLoose() || !predicate_->appendQuestion(question))
-        return SharedRefs(find());
+    if (!predicate_->appendQuestion(question)) return SharedRefs(find());
     if (const SharedRefs *known = arena.tables().answers.find(arena.version, scope_.root, question))
         return *known;
     SharedRefs found(find());

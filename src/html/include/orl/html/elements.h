@@ -5,7 +5,6 @@
 #include <orl/html/node_list.h>
 #include <orl/html/ordered_set.h>
 
-#include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
@@ -16,23 +15,27 @@
 
 namespace orl::html {
 
-/// A place in a list, right until the list changes. What it gives are handles of their own.
+/// A place in a list, right until the list changes. The handle that it gives costs nothing, as the list keeps
+/// the element, and is the iterator's own: it is another one when the iterator moves. A copy of it is a
+/// handle like any other.
 class ORL_HTML_API ElementsIterator {
-    struct Arrow;
-
 public:
-    using iterator_concept = std::random_access_iterator_tag;
     using iterator_category = std::input_iterator_tag;
     using value_type = Element;
     using difference_type = std::ptrdiff_t;
-    using reference = Element;
-    using pointer = Arrow;
+    using reference = const Element &;
+    using pointer = const Element *;
 
-    ElementsIterator() = default;
+    ElementsIterator() : ElementsIterator(nullptr) {}
+    ElementsIterator(const ElementsIterator &other) : ElementsIterator(other.ref_) {}
+    ElementsIterator &operator=(const ElementsIterator &other) {
+        ref_ = other.ref_;
+        return *this;
+    }
+    ~ElementsIterator() {}
 
-    Element operator*() const;
-    Arrow operator->() const;
-    Element operator[](difference_type n) const { return *(*this + n); }
+    const Element &operator*() const;
+    const Element *operator->() const { return &**this; }
 
     ElementsIterator &operator++() { return *this += 1; }
     ElementsIterator &operator--() { return *this -= 1; }
@@ -44,36 +47,30 @@ public:
     }
     ElementsIterator &operator-=(difference_type n) { return *this += -n; }
     friend ElementsIterator operator+(ElementsIterator at, difference_type n) { return at += n; }
-    friend ElementsIterator operator+(difference_type n, ElementsIterator at) { return at += n; }
     friend ElementsIterator operator-(ElementsIterator at, difference_type n) { return at -= n; }
-    friend difference_type operator-(ElementsIterator left, ElementsIterator right) {
+    friend difference_type operator-(const ElementsIterator &left, const ElementsIterator &right) {
         return left.ref_ - right.ref_;
     }
-    friend bool operator==(ElementsIterator, ElementsIterator) = default;
-    friend auto operator<=>(ElementsIterator, ElementsIterator) = default;
+    friend bool operator==(const ElementsIterator &left, const ElementsIterator &right) {
+        return left.ref_ == right.ref_;
+    }
 
 private:
     friend class Elements;
 
-    ElementsIterator(const std::uint32_t *ref) : ref_(ref) {}
+    ElementsIterator(const std::uint32_t *ref) : ref_(ref), element_() {}
 
-    const std::uint32_t *ref_ = nullptr;
+    const std::uint32_t *ref_;
+    union {
+        mutable Element element_; ///< never destroyed: it is not counted
+    };
 };
-
-struct ElementsIterator::Arrow {
-    Element element;
-    const Element *operator->() const { return &element; }
-};
-
-inline ElementsIterator::Arrow ElementsIterator::operator->() const {
-    return {**this};
-}
 
 /// An ordered list of elements, a value: copying it copies the list, not the elements. An element may stand
 /// in several lists and several times in one; as long as it does it is held.
 ///
 /// A list that was found costs four bytes an element, in common to its copies; handles are made as elements
-/// are taken out.
+/// are taken out. Walking along a list makes none.
 ///
 /// Operations on "each" run over the entries in order and give the list back. They stop at the first entry
 /// that fails, with its failure; the entries before it stay changed.
@@ -147,7 +144,7 @@ public:
     /// The place must not be past the end.
     void add(std::size_t index, const Element &element) { this_.insert(index, element.record()); }
     /// The place must exist.
-    Element get(std::size_t index) const { return begin()[std::ptrdiff_t(index)]; }
+    Element get(std::size_t index) const;
     std::vector<Element> array() const;
 
     std::size_t startIndex() const { return 0; }

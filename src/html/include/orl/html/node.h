@@ -192,6 +192,8 @@ public:
     explicit Node(core::NodeRec *record) : record_(record) {
         if (record) hold(record);
     }
+    /// For a handle that somebody else keeps and that is never destroyed.
+    void borrow(core::NodeRec *record) { record_ = record; }
     core::NodeRec *record() const { return record_; }
     static bool isKindOf(const core::NodeRec *) { return true; }
 
