@@ -11,7 +11,7 @@ run_packages=(
     qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript qml6-module-qtquick
     qml6-module-qtquick-controls qml6-module-qtquick-layouts qml6-module-qtquick-templates
     qml6-module-qtquick-window qml6-module-qtquick-shapes qml6-module-qt-labs-qmlmodels qml6-module-qt-labs-lottieqt
-    qml6-module-qtwebengine
+    qml6-module-qtwebengine libqt6webenginecore6-bin
     qt6-qpa-plugins qt6-wayland libqt6svg6
     fonts-noto-core fonts-noto-cjk fonts-noto-color-emoji
 )

@@ -36,6 +36,8 @@ int main(int argc, char **argv) {
     }
     const QString activationToken =
         qEnvironmentVariable("XDG_ACTIVATION_TOKEN"); // gone once a window took it
+    // The web view of a mail, which comes later if at all, draws with what the window draws with.
+    QGuiApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     QGuiApplication gui(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("orl"));
     QGuiApplication::setDesktopFileName(QStringLiteral("orl"));

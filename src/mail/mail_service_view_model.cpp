@@ -100,7 +100,8 @@ MailServiceViewModel::MailServiceViewModel(Process &process, QObject *parent)
 }
 
 void MailServiceViewModel::fetchMails() {
-    if (!process_.shared<InternetViewModel>().isReachableNow() || !session_.currentAddress) return;
+    if (!process_.shared<InternetViewModel>().isReachableNow()) return Q_EMIT foundOffline();
+    if (!session_.currentAddress) return;
     const auto request = inboxRequest(process_.platform().endpoints, *session_.currentAddress);
     if (!request) return;
     process_.platform().globalQueue.post([worker = worker(), request = *request] { worker.poll(request); });

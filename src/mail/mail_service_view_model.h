@@ -50,6 +50,8 @@ Q_SIGNALS:
     void mailsChanged();
     void mailsReplaced();
     void mailChanged(int position);
+    /// A chain of polls ended for want of a connection.
+    void foundOffline();
 
 private:
     struct Worker;

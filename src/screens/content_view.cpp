@@ -12,6 +12,7 @@ ContentView::ContentView(Process &process, Appearance &appearance, QObject *pare
       requestVM_(process),
       internetVM_(process.shared<InternetViewModel>()),
       copyVM_(process),
+      mailServiceVM_(process),
       appConfigVM_(process, adCalls(process)),
       adPlaces_(process, appConfigVM_),
       splash_(process, appConfigVM_),
@@ -55,7 +56,8 @@ void ContentView::followNumber() {
 void ContentView::settleRoot() {
     if (requestVM_.currentCountry()) {
         if (main_) return;
-        main_ = std::make_unique<MainView>(process_, adPlaces_, requestVM_, internetVM_, copyVM_);
+        main_ = std::make_unique<MainView>(process_, adPlaces_, requestVM_, internetVM_, copyVM_,
+                                           mailServiceVM_, tMailAlertVM_, appConfigVM_);
     } else if (!chooser_) {
         chooser_ = std::make_unique<ChoosePhoneView>(process_, requestVM_, internetVM_);
     } else {

@@ -2,12 +2,14 @@
 
 #include "config/app_config_view_model.h"
 #include "config/internet_view_model.h"
+#include "mail/mail_service_view_model.h"
 #include "numbers/request_view_model.h"
 #include "screens/ad_places.h"
 #include "screens/appearance.h"
 #include "screens/conversation_view.h"
 #include "screens/copy_view_model.h"
 #include "screens/full_swipe_pop_helper.h"
+#include "screens/mail/t_mail_alert_view_model.h"
 #include "screens/main_view.h"
 #include "screens/splash_view.h"
 
@@ -38,6 +40,7 @@ public:
     RequestViewModel &requestVM() { return requestVM_; }
     AppConfigViewModel &appConfigVM() { return appConfigVM_; }
     AdPlaces *adPlaces() { return &adPlaces_; }
+    MailServiceViewModel &mailServiceVM() { return mailServiceVM_; }
 
     /// With a country the tabs are the root, without one the first-run chooser.
     bool hasCountry() const { return main_ != nullptr; }
@@ -77,6 +80,8 @@ private:
     RequestViewModel requestVM_;
     InternetViewModel &internetVM_;
     CopyViewModel copyVM_;
+    TMailAlertViewModel tMailAlertVM_;
+    MailServiceViewModel mailServiceVM_;
     AppConfigViewModel appConfigVM_;
     AdPlaces adPlaces_;
     SplashView splash_;

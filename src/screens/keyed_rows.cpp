@@ -23,8 +23,18 @@ void KeyedRows::arrange(const QStringList &keys) {
     const int before = count();
     removeMissing(keys);
     const QSet<QString> known(keys_.cbegin(), keys_.cend());
-    for (qsizetype i = 0; i < keys.size(); ++i)
-        place(i, keys[i], known.contains(keys[i]));
+    for (qsizetype i = 0; i < keys.size();) {
+        if (known.contains(keys[i])) {
+            place(i, keys[i]);
+            ++i;
+            continue;
+        }
+        qsizetype end = i + 1;
+        while (end < keys.size() && !known.contains(keys[end]))
+            ++end;
+        insert(i, keys.mid(i, end - i));
+        i = end;
+    }
     if (count() != before) Q_EMIT countChanged();
 }
 
@@ -42,16 +52,19 @@ void KeyedRows::removeMissing(const QStringList &keys) {
     }
 }
 
-void KeyedRows::place(qsizetype at, const QString &key, bool known) {
-    if (!known) {
-        beginInsertRows({}, int(at), int(at));
-        keys_.insert(at, key);
-        endInsertRows();
-    } else if (const qsizetype from = keys_.indexOf(key, at); from != at) {
-        beginMoveRows({}, int(from), int(from), {}, int(at));
-        keys_.move(from, at);
-        endMoveRows();
-    }
+/// All at once: a view that fills from nothing is told once.
+void KeyedRows::insert(qsizetype at, const QStringList &keys) {
+    beginInsertRows({}, int(at), int(at + keys.size() - 1));
+    keys_ = keys_.mid(0, at) + keys + keys_.mid(at);
+    endInsertRows();
+}
+
+void KeyedRows::place(qsizetype at, const QString &key) {
+    const qsizetype from = keys_.indexOf(key, at);
+    if (from == at) return;
+    beginMoveRows({}, int(from), int(from), {}, int(at));
+    keys_.move(from, at);
+    endMoveRows();
 }
 
 void KeyedRows::changed(const QByteArrayList &roles) {

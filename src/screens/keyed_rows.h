@@ -43,13 +43,17 @@ protected:
     /// Tells views that these roles may have changed in all rows.
     void changed(const QByteArrayList &roles);
 
+    /// As changed, for one row and all its roles.
+    void changedRow(int row) { Q_EMIT dataChanged(index(row), index(row)); }
+
     virtual QVariant shown(const QString &key, qsizetype role) const = 0;
 
     const QByteArrayList &roles() const { return roles_; }
 
 private:
     void removeMissing(const QStringList &keys);
-    void place(qsizetype at, const QString &key, bool known);
+    void insert(qsizetype at, const QStringList &keys);
+    void place(qsizetype at, const QString &key);
 
     QByteArrayList roles_;
     QStringList keys_;

@@ -31,16 +31,19 @@ int rowOf(Tab tab) {
 } // namespace
 
 MainView::MainView(Process &process, const AdPlaces &ads, RequestViewModel &request,
-                   InternetViewModel &internet, CopyViewModel &copy, QObject *parent)
+                   InternetViewModel &internet, CopyViewModel &copy, MailServiceViewModel &mailService,
+                   TMailAlertViewModel &mailAlert, AppConfigViewModel &appVM, QObject *parent)
     : QObject(parent),
       request_(request),
       home_(process, ads, request, internet, copy),
+      mail_(process, mailService, internet, copy, mailAlert, appVM),
       fakeGenerator_(process, ads, request, internet, copy),
       settings_(process, request, internet, copy),
       selectedIndex_(rowOf(request.selectedTab())),
       tabs_({"label", "image"}) {
     connect(&request_, &RequestViewModel::selectedTabChanged, this, &MainView::followSelectedTab);
     listTabs();
+    if (tabRows[size_t(selectedIndex_)].tab == Tab::tMail) mail_.appear();
 }
 
 void MainView::select(int index) {
@@ -50,10 +53,12 @@ void MainView::select(int index) {
 void MainView::followSelectedTab() {
     const int row = rowOf(request_.selectedTab());
     if (row == selectedIndex_) return;
+    if (tabRows[size_t(selectedIndex_)].tab == Tab::tMail) mail_.disappear();
     selectedIndex_ = row;
     listTabs();
     Q_EMIT selectedIndexChanged();
     if (tabRows[size_t(row)].tab == Tab::home) home_.appear();
+    if (tabRows[size_t(row)].tab == Tab::tMail) mail_.appear();
     if (tabRows[size_t(row)].tab == Tab::fakeGenerator) fakeGenerator_.appear();
     if (tabRows[size_t(row)].tab == Tab::profile) settings_.appear();
 }

@@ -1,10 +1,8 @@
 #pragma once
 
 #include "mail/mail_service_view_model.h"
+#include "mail_json.h"
 #include "support/played_platform.h"
-
-#include <QJsonArray>
-#include <QJsonObject>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -17,24 +15,6 @@ inline void PrintTo(const QString &text, std::ostream *out) {
 }
 
 namespace test {
-
-inline QJsonObject mailJson(const QString &id) {
-    return {
-        {"id", id},
-        {"subject", "Subject of " + id},
-        {"created_at", "2026-01-01T09:05:00+0000"},
-        {"sender", QJsonObject{{"id", "s"}, {"display_name", "Shop"}, {"email", "shop@example.com"}}},
-        {"has_html", true},
-        {"has_text", false},
-    };
-}
-
-inline QByteArray inboxJson(const QStringList &ids) {
-    QJsonArray list;
-    for (const QString &id : ids)
-        list.append(mailJson(id));
-    return encodeJson(QJsonObject{{"data", list}});
-}
 
 inline QStringList ids(const QList<MailInfo> &mails) {
     QStringList all;

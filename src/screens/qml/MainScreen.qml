@@ -25,10 +25,7 @@ FocusScope {
         TabPage {
             index: 1
             selectedIndex: root.view.selectedIndex
-            sourceComponent: Unavailable {
-                title: "EMail"
-                sentence: "The mail service is not available in this build."
-            }
+            sourceComponent: MailScreen { view: root.view.mail }
         }
         TabPage {
             index: 2

@@ -1,11 +1,13 @@
 import QtQuick
 
-// A screen that is given `view` and slides in over another one from the end of the line, and is gone once it has slid out.
+// A screen that is given `view` and slides in over another one from the end of the line, and is gone once it has slid out,
+// unless it is kept for the next time.
 Item {
     id: root
     required property bool shown
     required property string source
     required property var view
+    property bool kept: false
     readonly property bool covers: shown && place === 0
     property real place: shown ? 0 : 1
     signal dismissed
@@ -39,6 +41,11 @@ Item {
             function onBackTapped() { root.dismissed(); }
         }
     }
-    onVisibleChanged: visible ? loader.setSource(source, { view: root.view }) : loader.setSource("")
+    onVisibleChanged: settle()
+    onKeptChanged: settle()
+    function settle() {
+        if (!visible && !kept) loader.setSource("");
+        else if (visible && loader.source.toString() === "") loader.setSource(source, { view: root.view });
+    }
     onShownChanged: if (shown) sheet.forceActiveFocus()
 }

@@ -24,6 +24,10 @@ QtObject {
 
     readonly property color bar: Qt.alpha(background, 0.9)
     readonly property color tint: Qt.alpha(accent, dark ? 0.16 : 0.1)
+    // A mail's page is written for a dark ground in both schemes.
+    readonly property color mailGround: "#191C21"
+    readonly property color mailText: "#F2F4F7"
+    readonly property color mailSecondary: "#A3ABB8"
     readonly property color off: dark ? "#4A515C" : "#8A93A3"
     readonly property color dim: Qt.alpha("black", dark ? 0.6 : 0.4)
     readonly property color clear: "transparent"
@@ -35,6 +39,8 @@ QtObject {
     readonly property int rowSize: Math.round(17 * textScale)
     readonly property int textSize: Math.round(15 * textScale)
     readonly property int secondarySize: Math.round(13 * textScale)
+    readonly property int labelSize: Math.round(18 * textScale)
+    readonly property int detailSize: Math.round(12 * textScale)
     readonly property int captionSize: Math.round(11 * textScale)
     readonly property real numberSpacing: 0.6
 
@@ -69,6 +75,7 @@ QtObject {
     readonly property int leastWidth: 360
     readonly property int leastHeight: 480
     readonly property int columnWidth: 640
+    readonly property int pageHeight: 300
 
     readonly property int motion: 180
     readonly property int travel: reducedMotion ? 0 : motion

@@ -6,6 +6,7 @@ Rectangle {
     id: root
     property string title
     property string flag
+    property int mostLines: 3
     signal backTapped
 
     implicitHeight: row.implicitHeight + Theme.space2
@@ -34,6 +35,8 @@ Rectangle {
             text: root.title
             font.pixelSize: Theme.headingSize
             font.weight: Font.DemiBold
+            maximumLineCount: root.mostLines
+            elide: Text.ElideRight
             Layout.fillWidth: true
             Accessible.role: Accessible.Heading
         }

@@ -10,14 +10,23 @@ Item {
     readonly property string destination: web.destination !== "" ? web.destination : hovered
     readonly property alias loading: view.loading
     readonly property url url: view.url
+    // The page that was given has been loaded, or given up.
+    property bool ready: false
     property string hovered
 
     onPageChanged: show()
     onWithheldChanged: show()
     Component.onCompleted: show()
 
+    // A page with a ground of its own leaves it to the next one, unless the colour is set anew.
+    function clear() {
+        view.backgroundColor = Qt.rgba(0, 0, 0, 1 / 255);
+        view.backgroundColor = "transparent";
+    }
+
     function show() {
         hovered = "";
+        ready = false;
         web.withheld = withheld;
         web.page = page;
         view.url = web.address;
@@ -48,6 +57,7 @@ Item {
             pluginsEnabled: false
             pdfViewerEnabled: false
             fullScreenSupportEnabled: false
+            showScrollBars: false
             screenCaptureEnabled: false
             webRTCPublicInterfacesOnly: true
             playbackRequiresUserGesture: true
@@ -65,7 +75,9 @@ Item {
                 view.url = request.requestedUrl;
         }
         onLoadingChanged: info => {
-            if (info.status !== WebEngineView.LoadStartedStatus) web.loadEnded();
+            if (info.status === WebEngineView.LoadStartedStatus) return root.clear();
+            if (info.url.toString() === web.address.toString()) root.ready = true;
+            web.loadEnded();
         }
         onLinkHovered: url => root.hovered = url.toString() === "" ? "" : web.shown(url)
 

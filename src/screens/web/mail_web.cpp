@@ -103,6 +103,7 @@ MailWeb::~MailWeb() {
 
 void MailWeb::setPage(const QString &page) {
     page_ = page;
+    left_ = false;
     pages_->set(page);
     setDestination({});
     Q_EMIT pageChanged();
@@ -122,11 +123,9 @@ bool MailWeb::allows(const QUrl &url, int type, bool mainFrame) {
     if (mainFrame && url == address()) return true;
     if (!mainFrame) return isOwn(url) || isWeb(url);
     if (!isWeb(url)) return false;
-    const bool tapped = type == QWebEngineNavigationRequest::LinkClickedNavigation;
-    const bool followed = !destination_.isEmpty();
-    if (withheld_ && !tapped && !followed && type != QWebEngineNavigationRequest::FormSubmittedNavigation &&
-        type != QWebEngineNavigationRequest::RedirectNavigation)
-        return false;
+    // A private mail goes nowhere by itself, as by a refresh that it asks for.
+    if (withheld_ && !left_ && type != QWebEngineNavigationRequest::LinkClickedNavigation) return false;
+    left_ = true;
     setDestination(shown(url));
     return true;
 }

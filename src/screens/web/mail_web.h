@@ -71,6 +71,7 @@ private:
     QString page_;
     QString destination_;
     bool withheld_ = false;
+    bool left_ = false; ///< a link was followed, so what is shown is no mail any more
 };
 
 } // namespace orl

@@ -1,0 +1,135 @@
+// Components reach the screen by its id, which this lint takes for a name from nowhere.
+// qmllint disable unqualified
+import QtQuick
+import QtQuick.Layouts
+import Orl.Screens
+
+// One mail. Its page scrolls in itself; what is around it scrolls where the window is small.
+FocusScope {
+    id: root
+    required property MailDetailsView view
+    signal backTapped
+
+    Flickable {
+        id: scroll
+        anchors.top: bar.bottom
+        anchors.bottom: banner.top
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: Math.min(parent.width, Theme.columnWidth)
+        contentHeight: Math.max(height, column.implicitHeight)
+        // The picture that was tapped comes into sight with its whole height.
+        readonly property bool showsPicture: root.view.imageToShowLink !== ""
+        onContentHeightChanged: if (showsPicture) contentY = contentHeight - height
+        onShowsPictureChanged: if (!showsPicture) contentY = 0
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+
+        ColumnLayout {
+            id: column
+            width: scroll.width
+            height: scroll.contentHeight
+            spacing: Theme.space2
+
+            MailHeader {
+                view: root.view
+                Layout.fillWidth: true
+                Layout.leftMargin: Theme.margin
+                Layout.rightMargin: Theme.margin
+                Layout.topMargin: Theme.space3
+            }
+            MailPrivacyRow {
+                view: root.view
+                Layout.fillWidth: true
+                Layout.leftMargin: Theme.margin
+                Layout.rightMargin: Theme.margin
+            }
+            Rectangle {
+                color: Theme.mailGround
+                radius: Theme.cardRadius
+                implicitHeight: Theme.pageHeight
+                Layout.fillWidth: true
+                Layout.fillHeight: true
+                Layout.minimumHeight: Theme.pageHeight
+                Layout.leftMargin: Theme.space2
+                Layout.rightMargin: Theme.space2
+
+                ColumnLayout {
+                    anchors.centerIn: parent
+                    spacing: Theme.space3
+                    visible: !root.view.hasContent
+                    Progress {
+                        color: Theme.mailText
+                        Layout.alignment: Qt.AlignHCenter
+                    }
+                    Words {
+                        text: "Loading"
+                        color: Theme.mailText
+                        Layout.alignment: Qt.AlignHCenter
+                    }
+                }
+                Loader {
+                    id: web
+                    property bool wanted: false
+                    // Not by its type: that would bring the web engine in with this file.
+                    readonly property bool failed: status === Loader.Error || (item !== null && !item.usable)
+                    anchors.fill: parent
+                    anchors.margins: Theme.space2
+                    active: wanted
+                    visible: root.view.hasContent && !failed
+                    source: "MailWebView.qml"
+                    Binding {
+                        target: web.item
+                        property: "withheld"
+                        value: root.view.withheld
+                        when: web.status === Loader.Ready
+                    }
+                    Binding {
+                        target: web.item
+                        property: "page"
+                        value: root.view.page
+                        when: web.status === Loader.Ready
+                    }
+                    Connections {
+                        target: root.view
+                        function onMailChanged() { web.wanted = web.wanted || root.view.hasContent; }
+                    }
+                    Component.onCompleted: wanted = root.view.hasContent
+                }
+                // Where the web engine is not there, or cannot run, its words.
+                Flickable {
+                    anchors.fill: parent
+                    anchors.margins: Theme.margin
+                    visible: web.failed && root.view.hasContent
+                    contentHeight: words.implicitHeight
+                    clip: true
+                    Words {
+                        id: words
+                        width: parent.width
+                        text: web.failed ? root.view.text : ""
+                        color: Theme.mailText
+                    }
+                }
+            }
+            MailAttachments {
+                view: root.view
+                Layout.fillWidth: true
+                Layout.leftMargin: Theme.margin
+                Layout.rightMargin: Theme.margin
+                Layout.bottomMargin: Theme.space3
+            }
+        }
+    }
+    AdBanner {
+        id: banner
+        anchors.bottom: parent.bottom
+        width: parent.width
+        banner: root.view.banner
+    }
+    TopBar {
+        id: bar
+        width: parent.width
+        title: root.view.subject
+        mostLines: 1 // it stands below in full
+        onBackTapped: root.backTapped()
+    }
+}

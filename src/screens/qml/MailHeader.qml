@@ -1,0 +1,69 @@
+import QtQuick
+import QtQuick.Layouts
+import Orl.Screens
+
+// Who wrote a mail, when and what about.
+ColumnLayout {
+    id: root
+    required property MailDetailsView view
+
+    spacing: Theme.space2
+
+    RowLayout {
+        spacing: Theme.space3
+        Symbol {
+            name: "person.crop.circle.fill"
+            color: Theme.secondary
+            side: Theme.avatar
+        }
+        ColumnLayout {
+            spacing: 0
+            Words {
+                text: root.view.sender
+                font.pixelSize: Theme.rowSize
+                font.weight: Font.DemiBold
+                maximumLineCount: 2
+                elide: Text.ElideRight
+                Layout.fillWidth: true
+            }
+            Words {
+                text: root.view.senderAddress
+                color: Theme.secondary
+                font.pixelSize: Theme.secondarySize
+                wrapMode: Text.WrapAnywhere
+                maximumLineCount: 2
+                elide: Text.ElideRight
+                Layout.fillWidth: true
+            }
+        }
+        Words {
+            text: root.view.time
+            color: Theme.secondary
+            font.pixelSize: Theme.secondarySize
+            wrapMode: Text.NoWrap
+            Layout.alignment: Qt.AlignTop
+        }
+    }
+    Rectangle {
+        implicitHeight: Theme.hairline
+        color: Theme.separator
+        Layout.fillWidth: true
+    }
+    Words {
+        text: "Subject:"
+        color: Theme.secondary
+        font.pixelSize: Theme.labelSize
+        Layout.fillWidth: true
+    }
+    Words {
+        text: root.view.subject
+        maximumLineCount: 4
+        elide: Text.ElideRight
+        Layout.fillWidth: true
+    }
+    Rectangle {
+        implicitHeight: Theme.hairline
+        color: Theme.separator
+        Layout.fillWidth: true
+    }
+}

@@ -1,0 +1,117 @@
+// Delegates reach the screen by its id, which this lint takes for a name from nowhere.
+// qmllint disable unqualified
+import QtQuick
+import QtQuick.Layouts
+import Orl.Screens
+
+// The mail tab: the card that makes an address, or the inbox of one. A mail slides in over it.
+FocusScope {
+    id: root
+    required property TMailView view
+
+    Item {
+        id: tab
+        anchors.fill: parent
+        visible: !details.covers
+        enabled: !root.view.showMailDetails
+
+        RowLayout {
+            id: bar
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: Math.min(parent.width, Theme.columnWidth) - 2 * Theme.margin
+            height: Math.max(implicitHeight, Theme.target) + Theme.space4
+
+            Words {
+                text: "Temp Mail"
+                font.pixelSize: Theme.titleSize
+                font.weight: Font.Bold
+                Layout.fillWidth: true
+                Accessible.role: Accessible.Heading
+            }
+            SymbolButton {
+                visible: root.view.showShareButton
+                symbol: "rectangle.and.pencil.and.ellipsis"
+                ink: Theme.accent
+                text: "Change address"
+                onClicked: root.view.changeAddress()
+            }
+        }
+        Loader {
+            anchors.top: bar.bottom
+            anchors.bottom: parent.bottom
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: Math.min(parent.width, Theme.columnWidth) - 2 * Theme.margin
+            visible: !root.view.isOffline
+            focus: true
+            sourceComponent: root.view.hasEmail ? inbox : builder
+        }
+        NoInternet {
+            anchors.fill: parent
+            anchors.topMargin: bar.height
+            visible: root.view.isOffline
+            onActed: root.view.retry()
+        }
+    }
+    Component {
+        id: builder
+        MailAddressBuilder { view: root.view.builder }
+    }
+    Component {
+        id: inbox
+        ListView {
+            id: list
+            focus: true
+            activeFocusOnTab: true
+            keyNavigationEnabled: true
+            clip: true
+            cacheBuffer: Theme.phoneHeight
+            boundsBehavior: Flickable.StopAtBounds
+            model: root.view.mails
+            header: MailAddressCard {
+                width: list.width
+                view: root.view
+            }
+            footer: Column {
+                width: list.width
+                bottomPadding: Theme.margin
+                MailEmpty {
+                    width: parent.width
+                    visible: list.count === 0
+                    progress: root.view.progress
+                }
+                Loader {
+                    width: parent.width
+                    active: root.view.nativeAd
+                    visible: active
+                    sourceComponent: NativeAdCard { view: root.view.nativeAd }
+                }
+            }
+            Accessible.role: Accessible.List
+            Accessible.name: "Mails"
+            delegate: MailRow {
+                required property int index
+                width: ListView.view.width
+                activeFocusOnTab: false
+                focusPolicy: Qt.NoFocus
+                onClicked: root.view.tapMail(index)
+            }
+        }
+    }
+    SlideOver {
+        id: details
+        anchors.fill: parent
+        shown: root.view.showMailDetails
+        kept: root.view.keepsReader
+        onDismissed: root.view.closeMail()
+        source: "MailDetailsScreen.qml"
+        view: root.view.details
+    }
+    Sheet {
+        visible: root.view.alert.shouldPresent
+        title: root.view.alert.title
+        message: root.view.alert.msg
+        yes: "OK"
+        onAccepted: root.view.dismissAlert()
+        onRejected: root.view.dismissAlert()
+    }
+}

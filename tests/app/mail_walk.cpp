@@ -1,0 +1,141 @@
+// The stations of the mail tab, on a host that goes on while the program is killed and started again.
+#include "walker.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+namespace orl {
+namespace {
+
+class MailWalk : public Walker {
+public:
+    void buildAddress();
+    void watchMails();
+    void readMails();
+    void readMarksAfterARestart();
+    void changeOfAddress();
+    void offlineAndBack();
+
+protected:
+    /// A row's name is "sender, time: subject".
+    static Fits row(const QString &subject) {
+        return [subject](const Accessible &control) {
+            return control.role() == QStringLiteral("list item") && control.name().contains(subject);
+        };
+    }
+
+    void openTab() {
+        ASSERT_NO_FATAL_FAILURE(press(tab(QStringLiteral("EMail")), "the mail tab"));
+        ASSERT_TRUE(wait(named(QStringLiteral("Temp Mail"))));
+    }
+
+    void openMail(const QString &subject, const QString &picture) {
+        ASSERT_TRUE(scrollTo(row(subject))) << qPrintable(subject);
+        ASSERT_NO_FATAL_FAILURE(press(row(subject), "a mail"));
+        ASSERT_TRUE(wait(named(QStringLiteral("Subject:"))));
+        look(picture);
+    }
+
+    void closeMail() {
+        ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Back")), "the way back"));
+        ASSERT_TRUE(gone(named(QStringLiteral("Subject:"))));
+    }
+
+    DemoHost host;
+};
+
+void MailWalk::buildAddress() {
+    ASSERT_TRUE(host.start());
+    startProgramWith(host);
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Germany")), "a country"));
+    ASSERT_NO_FATAL_FAILURE(press(number(QStringLiteral("+49")), "a number"));
+    ASSERT_NO_FATAL_FAILURE(openTab());
+    ASSERT_TRUE(wait(named(QStringLiteral("Create Your Temporary Email Address"))));
+    lookAround(QStringLiteral("30-mail-builder"));
+    const std::optional<Accessible> field = wait(named(QStringLiteral("Name")));
+    ASSERT_TRUE(field);
+    type(*field, QStringLiteral("walker"));
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Create")), "the button that creates"));
+    const std::optional<Accessible> card = wait(beginning(QStringLiteral("Copy address walker@")));
+    ASSERT_TRUE(card);
+    ASSERT_TRUE(card->press());
+    EXPECT_TRUE(wait(named(QStringLiteral("Copied to clipboard!"))));
+    EXPECT_TRUE(clipboard().startsWith(QStringLiteral("walker@"))) << qPrintable(clipboard());
+}
+
+void MailWalk::watchMails() {
+    ASSERT_TRUE(wait(row(QStringLiteral("Welcome to your inbox"))));
+    EXPECT_EQ(wait(row(QStringLiteral("Welcome")))->description(), QStringLiteral("Unread"));
+    ASSERT_TRUE(wait(row(QStringLiteral("Confirm your address")))) << "no second mail came";
+    ASSERT_TRUE(wait(row(QStringLiteral("Photos of Sunday")))) << "no attachments came";
+    lookAround(QStringLiteral("31-mail-inbox"));
+}
+
+void MailWalk::readMails() {
+    ASSERT_NO_FATAL_FAILURE(
+        openMail(QStringLiteral("Welcome to your inbox"), QStringLiteral("32-mail-html")));
+    ASSERT_NO_FATAL_FAILURE(closeMail());
+    ASSERT_NO_FATAL_FAILURE(
+        openMail(QStringLiteral("Photos of Sunday"), QStringLiteral("33-mail-attachments")));
+    ASSERT_NO_FATAL_FAILURE(press(beginning(QStringLiteral("Harbour at noon.JPG")), "an attachment"));
+    EXPECT_TRUE(wait(named(QStringLiteral("Attached picture"))));
+    lookAtRest(QStringLiteral("34-mail-attachment"));
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Private mode")), "private mode"));
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return wait(named(QStringLiteral("Private mode")))->isChecked(); }, 10000));
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Private mode")), "private mode"));
+    ASSERT_NO_FATAL_FAILURE(closeMail());
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return wait(row(QStringLiteral("Welcome")))->description() == QStringLiteral("Read"); }, 20000))
+        << "an opened mail is not marked";
+    lookAtRest(QStringLiteral("35-mail-read"));
+}
+
+void MailWalk::readMarksAfterARestart() {
+    killProgram();
+    startProgramWith(host);
+    ASSERT_NO_FATAL_FAILURE(openTab());
+    ASSERT_TRUE(wait(row(QStringLiteral("Photos of Sunday"))));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return wait(row(QStringLiteral("Photos")))->description() == QStringLiteral("Read"); }, 30000))
+        << "read marks did not survive the kill";
+}
+
+void MailWalk::changeOfAddress() {
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Change address")), "the tool button"));
+    ASSERT_TRUE(wait(named(QStringLiteral("Create Your Temporary Email Address"))));
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Cancel")), "the way out of the builder"));
+    ASSERT_TRUE(wait(beginning(QStringLiteral("Copy address walker@"))));
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Change address")), "the tool button again"));
+    const std::optional<Accessible> field = wait(named(QStringLiteral("Name")));
+    ASSERT_TRUE(field);
+    type(*field, QStringLiteral("second"));
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Create")), "the button that creates"));
+    ASSERT_TRUE(wait(beginning(QStringLiteral("Copy address second@"))));
+    EXPECT_TRUE(gone(row(QStringLiteral("Photos of Sunday")))) << "the old inbox stays";
+    lookAtRest(QStringLiteral("36-mail-second-address"));
+}
+
+/// The mail host is gone for a while: the inbox stays as it is, and goes on when the host is back.
+void MailWalk::offlineAndBack() {
+    host.setFault(QStringLiteral("/mail"), Fault::Kind::Dead);
+    ASSERT_TRUE(wait(row(QStringLiteral("Welcome to your inbox"))));
+    ASSERT_NO_FATAL_FAILURE(press(tab(QStringLiteral("Settings")), "the settings"));
+    ASSERT_NO_FATAL_FAILURE(openTab());
+    EXPECT_TRUE(wait(row(QStringLiteral("Welcome to your inbox"))));
+    host.clearFaults();
+    EXPECT_TRUE(wait(row(QStringLiteral("Photos of Sunday")))) << "the inbox does not go on";
+    killProgram();
+}
+
+TEST_F(MailWalk, AnAddressItsMailsAndAnotherAddress) {
+    for (const auto station :
+         {&MailWalk::buildAddress, &MailWalk::watchMails, &MailWalk::readMails,
+          &MailWalk::readMarksAfterARestart, &MailWalk::changeOfAddress, &MailWalk::offlineAndBack}) {
+        (this->*station)();
+        if (HasFatalFailure()) return;
+    }
+}
+
+} // namespace
+} // namespace orl

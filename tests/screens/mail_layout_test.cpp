@@ -1,0 +1,248 @@
+#include "demo/demo_host.h"
+#include "demo/mail/mailboxes.h"
+#include "mail_screens_phone.h"
+#include "resting.h"
+#include "screens/review_prompt.h"
+#include "screens/screens.h"
+
+#include <QGuiApplication>
+#include <QJsonDocument>
+#include <QQmlApplicationEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QSet>
+#include <QTest>
+
+#include <filesystem>
+
+using namespace orl;
+
+namespace {
+
+struct Look {
+    const char *name;
+    int width = 390;
+    int height = 844;
+    bool dark = false;
+    double textScale = 1;
+    bool rightToLeft = false;
+};
+
+void PrintTo(const Look &look, std::ostream *out) {
+    *out << look.name;
+}
+
+constexpr Look looks[] = {
+    {"phone"},
+    {"phone_dark", 390, 844, true},
+    {"narrow_dark_large_text", 360, 640, true, 2},
+    {"right_to_left", 390, 844, false, 1, true},
+    {"desktop", 1000, 700},
+};
+
+QStringList complaints;
+
+void noteComplaint(QtMsgType type, const QMessageLogContext &, const QString &text) {
+    // The web engine tells on itself when it starts.
+    static const QRegularExpression known(
+        QStringLiteral("^(QWebEngine|Sandboxing|Init Parameters|GLImplementation|No suitable)"));
+    if (type != QtDebugMsg && type != QtInfoMsg && !text.trimmed().contains(known)) complaints << text;
+}
+
+/// Draws the mail tab with the mails of the demo host and looks at what can be measured. Keeps a picture of
+/// each station in the folder "pictures" beside the test.
+class MailLayoutTest : public MailScreensTest, public testing::WithParamInterface<Look> {
+protected:
+    MailLayoutTest() {
+        complaints.clear();
+        previous_ = qInstallMessageHandler(noteComplaint);
+        appearance.setDark(GetParam().dark);
+        appearance.setTextScale(GetParam().textScale);
+        appearance.setRightToLeft(GetParam().rightToLeft);
+        appearance.setReducedMotion(true);
+        EXPECT_TRUE(pictures_.start());
+    }
+
+    ~MailLayoutTest() override {
+        engine_.reset();
+        qInstallMessageHandler(previous_);
+    }
+
+    void show() {
+        engine_ = std::make_unique<QQmlApplicationEngine>();
+        prepareScreens(*engine_, process->platform());
+        engine_->setInitialProperties({{QStringLiteral("content"), QVariant::fromValue(content.get())},
+                                       {QStringLiteral("reviewPrompt"), QVariant::fromValue(&prompt_)}});
+        engine_->load(QUrl(QString::fromLatin1(mainWindow)));
+        window_ = qobject_cast<QQuickWindow *>(engine_->rootObjects().value(0));
+        ASSERT_NE(window_, nullptr) << complaints.join(u'\n').toStdString();
+        window_->resize(GetParam().width, GetParam().height);
+        phone.advance(SplashView::wait + SplashView::fade);
+    }
+
+    /// The played mail host answers as the demo's does once the first mails are there.
+    void answerDemoInbox() {
+        const QByteArray host = "127.0.0.1:" + QByteArray::number(pictures_.port());
+        const double begun = phone.clock.now();
+        const auto ask = [&](const QString &path, double now, const QUrlQuery &query = {}) {
+            return mailboxes_.answer({path, now, query, "text/html,text/plain", host}).body;
+        };
+        QUrlQuery query;
+        query.addQueryItem(QStringLiteral("inbox"), address);
+        ask(QStringLiteral("/api/emails"), begun, query);
+        const QByteArray list = ask(QStringLiteral("/api/emails"), begun + 80, query);
+        answerInbox(list);
+        for (const QJsonValue &mail : QJsonDocument::fromJson(list)[QStringLiteral("data")].toArray()) {
+            const QString id = mail[QStringLiteral("id")].toString();
+            phone.urls.answer(bodyUrl(id), ask(QStringLiteral("/api/emails/") + id, begun));
+            for (const QJsonValue &file : mail[QStringLiteral("attachments")].toArray()) {
+                const QString below =
+                    id + QStringLiteral("/attachments/") + file[QStringLiteral("id")].toString();
+                phone.urls.answer(bodyUrl(below), ask(QStringLiteral("/api/emails/") + below, begun));
+            }
+        }
+    }
+
+    int rowOf(const QString &sender) { return int(test::texts(*mail().mails(), "sender").indexOf(sender)); }
+
+    void look(const char *station) {
+        rest();
+        save(station, window_->grabWindow());
+    }
+
+    /// A mail's page is drawn by another process: looks until there are white letters on its dark ground.
+    void lookAtPage(const char *station) {
+        rest();
+        QImage picture;
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] {
+                rest();
+                const auto *page = window_->findChild<QQuickItem *>(QStringLiteral("mailView"));
+                if (!page || page->property("loading").toBool()) return false;
+                picture = window_->grabWindow();
+                const QRectF place = page->mapRectToScene(page->boundingRect());
+                return coloursOf(picture.copy(place.toRect())) > 5;
+            },
+            30000))
+            << station;
+        save(station, picture);
+    }
+
+    void save(const char *station, const QImage &picture) {
+        std::filesystem::create_directories("pictures");
+        picture.save(QStringLiteral("pictures/%1-%2.png")
+                         .arg(QString::fromLatin1(station), QString::fromLatin1(GetParam().name)),
+                     nullptr, 80);
+        SCOPED_TRACE(station);
+        EXPECT_GT(coloursOf(picture), 20) << "a blank screen";
+        check(*window_->contentItem());
+        EXPECT_EQ(std::exchange(complaints, {}).join(u'\n').toStdString(), "");
+    }
+
+    void rest() {
+        comeToRest(*window_->contentItem(), [this] { phone.settle(); });
+    }
+
+    ReviewPrompt prompt_{browser, QUrl()};
+    DemoHost pictures_;
+
+private:
+    static int coloursOf(const QImage &picture) {
+        QSet<QRgb> colours;
+        for (int y = 0; y < picture.height(); y += 3) {
+            for (int x = 0; x < picture.width(); x += 3)
+                colours.insert(picture.pixel(x, y));
+        }
+        return int(colours.size());
+    }
+
+    void check(const QQuickItem &item) {
+        if (!item.isVisible() || item.opacity() == 0 || item.clip()) return;
+        if (item.inherits("QQuickAbstractButton") || item.inherits("QQuickTextField")) {
+            const QString name =
+                item.property("text").toString() + item.property("placeholderText").toString();
+            EXPECT_FALSE(name.isEmpty()) << item.metaObject()->className() << " has no name";
+            EXPECT_GE(item.width(), 44) << name.toStdString();
+            EXPECT_GE(item.height(), 44) << name.toStdString();
+            checkPlace(item, name);
+        }
+        if (item.inherits("QQuickText")) checkPlace(item, item.property("text").toString());
+        for (const QQuickItem *child : item.childItems())
+            check(*child);
+    }
+
+    void checkPlace(const QQuickItem &item, const QString &who) {
+        const QRectF place = item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
+        EXPECT_GE(place.left(), -0.5) << who.toStdString();
+        EXPECT_LE(place.right(), window_->width() + 0.5) << who.toStdString();
+    }
+
+    QtMessageHandler previous_ = nullptr;
+    demo::Mailboxes mailboxes_{1};
+    std::unique_ptr<QQmlApplicationEngine> engine_;
+
+protected:
+    QQuickWindow *window_ = nullptr;
+};
+
+TEST_P(MailLayoutTest, Builder) {
+    openTab();
+    show();
+    look("mail-builder");
+    mail().builder()->tapLogin();
+    mail().builder()->setLogin(QStringLiteral("hello"));
+    look("mail-builder-suggestions");
+    answerInbox(QStringList{});
+    phone.urls.answer(phone.endpoints.mailHost + "/api/emails?inbox=" + mail().builder()->address(),
+                      test::inboxJson({}));
+    mail().builder()->create();
+    phone.advance(std::chrono::seconds(1));
+    look("mail-checking");
+    phone.advance(std::chrono::seconds(3));
+    look("mail-empty");
+    phone.reachability.setOnline(false);
+    mail().retry();
+    look("mail-offline");
+}
+
+TEST_P(MailLayoutTest, Mails) {
+    phone.store.setValue("selected_email", address);
+    answerDemoInbox();
+    openTab();
+    phone.advance(std::chrono::seconds(3));
+    show();
+    look("mail-inbox");
+
+    mail().tapMail(rowOf(QStringLiteral("Orl")));
+    lookAtPage("mail-welcome");
+    mail().closeMail();
+    mail().tapMail(rowOf(QStringLiteral("Maya Okafor")));
+    lookAtPage("mail-attachments");
+    mail().details()->tapAttachment(0);
+    look("mail-attachment-picture");
+    mail().closeMail();
+
+    const auto subjects = test::texts(*mail().mails(), "subject");
+    const auto newsletter = std::find_if(subjects.begin(), subjects.end(), [](const QString &s) {
+        return s.startsWith(QStringLiteral("This month"));
+    });
+    mail().tapMail(int(newsletter - subjects.begin()));
+    lookAtPage("mail-newsletter");
+    mail().details()->togglePrivate();
+    lookAtPage("mail-private");
+    mail().details()->togglePrivate();
+    mail().closeMail();
+    look("mail-inbox-read");
+}
+
+INSTANTIATE_TEST_SUITE_P(Looks, MailLayoutTest, testing::ValuesIn(looks),
+                         [](const auto &look) { return std::string(look.param.name); });
+
+} // namespace
+
+int main(int argc, char **argv) {
+    QGuiApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    QGuiApplication application(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

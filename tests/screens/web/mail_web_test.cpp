@@ -1,0 +1,199 @@
+#include "mail/leaks.h"
+#include "mail/mail_page.h"
+#include "spy_server.h"
+
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+#include <QMap>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickView>
+#include <QTest>
+
+#include <gtest/gtest.h>
+#include <tuple>
+#include <utility>
+
+using namespace orl;
+
+namespace {
+
+/// The web view as mails use it, and a server that hears whatever it lets out.
+class MailWebTest : public testing::Test {
+protected:
+    void SetUp() override {
+        view_.engine()->addImportPath(ORL_WEB_DIR);
+        component_.setData("import Orl.Web\nMailPage { anchors.fill: parent }", QUrl());
+        open();
+        view_.resize(390, 600);
+        view_.show();
+    }
+
+    void TearDown() override { close(); }
+
+    void open() {
+        mail_ = qobject_cast<QQuickItem *>(component_.create());
+        ASSERT_NE(mail_, nullptr) << component_.errorString().toStdString();
+        mail_->setParentItem(view_.contentItem());
+    }
+    void close() { delete std::exchange(mail_, nullptr); }
+
+    QObject &web() const { return *mail_->findChild<QObject *>(QStringLiteral("mailView")); }
+
+    /// Shows a page and waits until it has loaded.
+    void load(const QString &page, bool withheld = false) {
+        mail_->setProperty("withheld", withheld);
+        mail_->setProperty("page", page);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return mail_->property("ready").toBool(); }, 30000))
+            << page.left(200).toStdString();
+    }
+
+    QString title() const { return web().property("title").toString(); }
+
+    /// Runs a script in a page that may have scripts; what it says by its title.
+    QString say(const QString &script) {
+        load(QStringLiteral("<script>%1</script>").arg(script));
+        std::ignore = QTest::qWaitFor([&] { return title().startsWith(QStringLiteral("says ")); }, 10000);
+        return title().mid(5);
+    }
+
+    QString leak(const char *markup) const {
+        return QString::fromUtf8(markup).replace(QStringLiteral("spy.example"), spy.host());
+    }
+
+    /// A request that comes after all others that were made until now.
+    void knock() {
+        load(QStringLiteral("<img src='%1'>").arg(spy.url(QStringLiteral("/last"))));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return spy.paths.contains(QStringLiteral("/last")); }, 30000));
+    }
+
+    /// What of the web engine runs besides this program: those that draw pages, and all.
+    static std::pair<int, int> processes() {
+        QMap<QString, QString> parents;
+        for (const QString &id :
+             QDir(QStringLiteral("/proc")).entryList({QStringLiteral("[0-9]*")}, QDir::Dirs)) {
+            QFile status(QStringLiteral("/proc/%1/status").arg(id)),
+                line(QStringLiteral("/proc/%1/cmdline").arg(id));
+            if (!status.open(QIODevice::ReadOnly) || !line.open(QIODevice::ReadOnly)) continue;
+            if (!line.readAll().contains("QtWebEngineProcess")) continue;
+            for (const QByteArray &row : status.readAll().split('\n'))
+                if (row.startsWith("PPid:")) parents[id] = QString::fromLatin1(row.mid(5).trimmed());
+        }
+        const QString own = QString::number(QCoreApplication::applicationPid());
+        int all = 0, drawing = 0;
+        for (const QString &parent : parents) {
+            all += parent == own || parents.value(parent) == own;
+            drawing += parents.value(parent) == own; // forked off by one that waits
+        }
+        return {drawing, all};
+    }
+
+    SpyServer spy;
+    QQuickView view_;
+    QQmlComponent component_{view_.engine()};
+    QQuickItem *mail_ = nullptr;
+};
+
+TEST_F(MailWebTest, AMailIsShownAsItIsAndItsPicturesAreLoaded) {
+    load(mailPage(QStringLiteral("<img src='%1'>").arg(spy.url(QStringLiteral("/1")))));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return spy.paths.contains(QStringLiteral("/1")); }, 30000));
+    EXPECT_EQ(say(QStringLiteral(
+                  "document.title = 'says ' + getComputedStyle(document.documentElement).backgroundColor")),
+              QStringLiteral("rgba(0, 0, 0, 0)"));
+}
+
+TEST_F(MailWebTest, APageOfThreeMegabytesIsShown) {
+    const QString words = QStringLiteral("words and ").repeated(300'000);
+    load(mailPage(words +
+                  QStringLiteral("<script>document.title = document.body.textContent.length</script>")));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return title().toInt() >= 3'000'000; }, 30000))
+        << title().toStdString();
+}
+
+TEST_F(MailWebTest, InPrivateModeNothingReachesAnybody) {
+    QString bodies;
+    for (const char *markup : test::leaks)
+        bodies += mailBody(privateMail(mailPage(leak(markup)), false).page);
+    load(mailPage(bodies), true);
+    ASSERT_NO_FATAL_FAILURE(knock());
+    EXPECT_EQ(spy.paths, QStringList{QStringLiteral("/last")});
+    EXPECT_EQ(spy.connections, 1);
+}
+
+TEST_F(MailWebTest, WhatCleaningMightMissIsHeldBackByTheView) {
+    for (const char *markup : test::leaks)
+        load(mailPage(leak(markup)), true);
+    ASSERT_NO_FATAL_FAILURE(knock());
+    EXPECT_EQ(spy.paths, QStringList{QStringLiteral("/last")});
+}
+
+TEST_F(MailWebTest, TheTricksDoReachSomebodyWithoutPrivateMode) {
+    for (int i = 0; i < 6; ++i)
+        load(mailPage(leak(test::leaks[i])));
+    ASSERT_NO_FATAL_FAILURE(knock());
+    EXPECT_GE(spy.paths.size(), 6) << "or else the two tests above could not fail";
+}
+
+TEST_F(MailWebTest, ATappedLinkShowsWhereItLeadsThenLoadsInPlace) {
+    QStringList shown;
+    for (const bool withheld : {false, true}) {
+        SCOPED_TRACE(withheld);
+        shown.clear();
+        load(QStringLiteral("<a id=a href='%1' target=_self style='position:fixed;inset:0'>my bank</a>")
+                 .arg(spy.url(QStringLiteral("/to/there"))),
+             withheld);
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&view_));
+        const auto atEnd = [&] { return title() == QStringLiteral("/there"); };
+        // A tap before the page has been drawn finds nothing under it.
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] {
+                if (mail_->property("destination").toString().isEmpty() && !atEnd())
+                    QTest::mouseClick(&view_, Qt::LeftButton, {}, QPoint(100, 100));
+                const QString destination = mail_->property("destination").toString();
+                if (!destination.isEmpty() && !shown.contains(destination)) shown << destination;
+                return atEnd();
+            },
+            30000));
+        EXPECT_TRUE(shown.contains(spy.url(QStringLiteral("/to/there")))) << shown.join(u' ').toStdString();
+    }
+}
+
+TEST_F(MailWebTest, APageCanNeitherReadFilesNorReachTheProgram) {
+    EXPECT_EQ(say(QStringLiteral("document.title = 'says ' + typeof qt + typeof webChannelTransport")),
+              QStringLiteral("undefinedundefined"));
+    EXPECT_EQ(
+        say(QStringLiteral("fetch('file:///etc/hostname').then(() => document.title = 'says read', () => "
+                           "document.title = 'says refused')")),
+        QStringLiteral("refused"));
+    EXPECT_EQ(say(QStringLiteral(
+                  "navigator.permissions.query({name: 'geolocation'}).then(p => "
+                  "document.title = 'says ' + (p.state != 'granted'), () => document.title = 'says true')")),
+              QStringLiteral("true"));
+    EXPECT_EQ(say(QStringLiteral("const w = window.open('%1'); document.title = 'says ' + w")
+                      .arg(spy.url(QStringLiteral("/w")))),
+              QStringLiteral("null"));
+    EXPECT_EQ(say(QStringLiteral("alert(1); document.title = 'says ' + confirm(2) + prompt(3)")),
+              QStringLiteral("falsenull"));
+    EXPECT_FALSE(spy.paths.contains(QStringLiteral("/w")));
+}
+
+TEST_F(MailWebTest, TheProcessesThatDrawGoWithTheView) {
+    load(QStringLiteral("x"));
+    EXPECT_GE(processes().first, 1);
+    close();
+    EXPECT_TRUE(QTest::qWaitFor([] { return processes().first == 0; }, 30000)) << processes().first;
+    open();
+    load(QStringLiteral("x"));
+    EXPECT_GE(processes().first, 1) << "the next mail has one again";
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    QGuiApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    QGuiApplication application(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
