@@ -39,8 +39,8 @@ public:
     CopyViewModel *copyVM() { return &copyVM_; }
     RequestViewModel &requestVM() { return requestVM_; }
     AppConfigViewModel &appConfigVM() { return appConfigVM_; }
-    MailServiceViewModel &mailServiceVM() { return mailServiceVM_; }
     AdPlaces *adPlaces() { return &adPlaces_; }
+    MailServiceViewModel &mailServiceVM() { return mailServiceVM_; }
 
     /// With a country the tabs are the root, without one the first-run chooser.
     bool hasCountry() const { return main_ != nullptr; }

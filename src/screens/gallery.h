@@ -7,7 +7,7 @@
 namespace orl {
 
 /// Where the gallery's window is; it needs a `gallery` of this type.
-inline constexpr char galleryWindow[] = "qrc:/Orl/Screens/Gallery.qml";
+inline constexpr char galleryWindow[] = "qrc:/Orl/Screens/GalleryWindow.qml";
 
 /// What a page of all components needs of state, made up: it reads no host and keeps nothing.
 class Gallery : public QObject {

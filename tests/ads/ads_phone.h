@@ -7,16 +7,13 @@
 #include "support/played_ads.h"
 #include "support/played_notifications.h"
 #include "support/played_platform.h"
+#include "support/print_text.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <memory>
 
 namespace orl {
-
-inline void PrintTo(const QString &text, std::ostream *out) {
-    *out << '"' << text.toStdString() << '"';
-}
 
 /// Advertising on a played phone. The remote documents do not arrive unless a test lets them.
 struct AdsTest : testing::Test {

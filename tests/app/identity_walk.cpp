@@ -48,10 +48,12 @@ protected:
 };
 
 void IdentityWalk::firstNumber() {
+    demo::ConfigurationValues values; // no ads
+    host.setConfiguration(values);
     ASSERT_TRUE(host.start());
-    startProgramWith(host);
-    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Germany")), "the country"));
-    ASSERT_NO_FATAL_FAILURE(press(number(QStringLiteral("+49")), "the number"));
+    startProgram(servedBy(host));
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("United States")), "the country"));
+    ASSERT_NO_FATAL_FAILURE(press(number(QStringLiteral("+1")), "the number"));
     ASSERT_NO_FATAL_FAILURE(press(tab(QStringLiteral("Identity")), "the identity tab"));
 }
 
@@ -104,7 +106,7 @@ void IdentityWalk::saves() {
 
 void IdentityWalk::savedAfterAKill() {
     killProgram();
-    startProgramWith(host);
+    startProgram(servedBy(host));
     ASSERT_NO_FATAL_FAILURE(press(tab(QStringLiteral("Identity")), "the identity tab"));
     ASSERT_NO_FATAL_FAILURE(generate());
     ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Saved identities")), "the saved list"));

@@ -3,16 +3,13 @@
 #include "mail/mail_service_view_model.h"
 #include "mail_json.h"
 #include "support/played_platform.h"
+#include "support/print_text.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <memory>
 
 namespace orl {
-
-inline void PrintTo(const QString &text, std::ostream *out) {
-    *out << '"' << text.toStdString() << '"';
-}
 
 namespace test {
 

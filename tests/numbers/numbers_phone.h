@@ -4,16 +4,13 @@
 #include "numbers/request_view_model.h"
 #include "support/played_notifications.h"
 #include "support/played_platform.h"
+#include "support/print_text.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <memory>
 
 namespace orl {
-
-inline void PrintTo(const QString &text, std::ostream *out) {
-    *out << '"' << text.toStdString() << '"';
-}
 
 namespace test {
 

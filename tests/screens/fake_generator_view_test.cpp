@@ -1,4 +1,4 @@
-#include "identity/identity_phone.h"
+#include "identity/sample_identities.h"
 #include "screens/fake_generator_view.h"
 #include "screens_phone.h"
 

@@ -1,7 +1,7 @@
 // Draws the identity tab and the gallery of components as people may have set up their devices, and keeps
 // pictures in the folder "pictures" beside the test.
 
-#include "identity/identity_phone.h"
+#include "identity/sample_identities.h"
 #include "resting.h"
 #include "screens/gallery.h"
 #include "screens/screens.h"

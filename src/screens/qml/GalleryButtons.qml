@@ -21,8 +21,9 @@ ColumnLayout {
         QuietButton { text: "Quiet, pressed"; down: true; Layout.fillWidth: true }
         QuietButton { text: "Quiet, filled"; filled: true; symbol: "send"; Layout.fillWidth: true }
         QuietAdButton { text: "Beside an ad"; Layout.fillWidth: true }
-        RowLayout {
+        Flow {
             spacing: Theme.space2
+            Layout.fillWidth: true
             SymbolButton { symbol: "arrow-clockwise"; text: "Symbol" }
             SymbolButton { symbol: "arrow-clockwise"; text: "Symbol, pressed"; down: true }
             RoundButton { symbol: "checkmark"; text: "Round" }

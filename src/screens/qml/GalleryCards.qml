@@ -20,13 +20,18 @@ ColumnLayout {
     GallerySection {
         title: "Messages"
         Layout.fillWidth: true
-        MessageCard {
-            sender: "Harbourly Pay"
-            content: "482913 is your code. Or tap https://harbourly.example/v/8Xk2 now."
-            age: "3 min. ago"
-            exports: ["482913", "https://harbourly.example/v/8Xk2"]
-            face: root.gallery.face
+        Item {
+            implicitHeight: message.implicitHeight
             Layout.fillWidth: true
+            MessageCard {
+                id: message
+                width: parent.width
+                sender: "Harbourly Pay"
+                content: "482913 is your code. Or tap https://harbourly.example/v/8Xk2 now."
+                age: "3 min. ago"
+                exports: ["482913", "https://harbourly.example/v/8Xk2"]
+                face: root.gallery.face
+            }
         }
         SenderCard { name: "Harbourly Pay"; content: "482913 is your code."; time: "3 min. ago"; unseen: "2"; face: root.gallery.face; Layout.fillWidth: true }
         SenderCard { name: "Harbourly Pay"; content: "All are seen."; time: "yesterday"; unseen: ""; face: root.gallery.face; Layout.fillWidth: true }

@@ -13,8 +13,9 @@ ColumnLayout {
     GallerySection {
         title: "Signs"
         Layout.fillWidth: true
-        RowLayout {
+        Flow {
             spacing: Theme.space3
+            Layout.fillWidth: true
             Flag { code: "no" }
             Flag { code: "unknown" }
             Avatar { face: root.gallery.face }
@@ -28,8 +29,9 @@ ColumnLayout {
     GallerySection {
         title: "Waiting"
         Layout.fillWidth: true
-        RowLayout {
+        Flow {
             spacing: Theme.space5
+            Layout.fillWidth: true
             Spinner {}
             Progress {}
             MessageLoader {}
@@ -40,7 +42,7 @@ ColumnLayout {
         title: "States"
         Layout.fillWidth: true
         NoInternet { Layout.fillWidth: true }
-        Error404 { Layout.fillWidth: true }
+        Error404 { subtitle: "The numbers could not be read."; btnTitle: "Try Again"; Layout.fillWidth: true }
         StateMessage { drawing: "no_history"; title: "No numbers yet"; sentence: "The numbers that you choose are kept here, so that you find them again."; Layout.fillWidth: true }
         StateMessage { busy: true; sentence: "Fetching..."; Layout.fillWidth: true }
     }

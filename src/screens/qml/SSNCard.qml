@@ -41,7 +41,7 @@ FocusScope {
                 id: fact
                 required property string title
                 required property string content
-                readonly property real titleWidth: caption.implicitWidth
+                readonly property real titleWidth: Math.ceil(caption.implicitWidth) + 1
                 spacing: Theme.space3
                 Layout.fillWidth: true
                 Words {

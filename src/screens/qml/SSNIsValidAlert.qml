@@ -1,7 +1,6 @@
 // Delegates reach the screen by its id, which this lint takes for a name from nowhere.
 // qmllint disable unqualified
 import QtQuick
-import QtQuick.Layouts
 import QtQuick.Templates as T
 import Orl.Screens
 

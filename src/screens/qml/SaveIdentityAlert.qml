@@ -57,7 +57,7 @@ SheetFrame {
                     filled: true
                     implicitWidth: 0
                     Layout.fillWidth: true
-                    Layout.fillHeight: true
+                    Layout.fillHeight: !Theme.large
                     onClicked: root.view.cancelSave()
                 }
                 MainButton {

@@ -6,6 +6,7 @@ Pressable {
     id: root
     required property string picture
     required property bool chosen
+    required text
 
     checked: chosen
     leftPadding: Theme.space2
