@@ -17,17 +17,25 @@ ColumnLayout {
         color: Theme.secondary
         font.pixelSize: Theme.secondarySize
     }
+    // Made by hand: a Repeater in a card that the list drops while it is still making it complains of that.
     Flow {
+        id: chips
         spacing: Theme.space2
         Layout.fillWidth: true
-        Repeater {
-            model: root.exports
-            ExportChip {
-                required property string modelData
-                entry: modelData
-                width: Math.min(implicitWidth, root.width)
-                onClicked: root.tapped(entry)
-            }
+    }
+    Component {
+        id: chip
+        ExportChip {
+            width: Math.min(implicitWidth, root.width)
+            onClicked: root.tapped(entry)
         }
+    }
+    onExportsChanged: fill()
+
+    function fill() {
+        for (let i = chips.children.length; i-- > 0;)
+            chips.children[i].destroy();
+        for (let i = 0; i < exports.length; ++i)
+            chip.createObject(chips, { entry: exports[i] });
     }
 }
