@@ -7,6 +7,7 @@ import QtQuick.Layouts
 ColumnLayout {
     id: root
     required property list<string> exports
+    property bool inTabOrder: true // a long list is gone through row by row
     signal tapped(string entry)
 
     visible: exports.length > 0
@@ -27,6 +28,7 @@ ColumnLayout {
         id: chip
         ExportChip {
             width: Math.min(implicitWidth, root.width)
+            activeFocusOnTab: root.inTabOrder || activeFocus
             onClicked: root.tapped(entry)
         }
     }
