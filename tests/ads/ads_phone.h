@@ -14,10 +14,6 @@
 
 namespace orl {
 
-inline void PrintTo(const QString &text, std::ostream *out) {
-    *out << '"' << text.toStdString() << '"';
-}
-
 /// Advertising on a played phone. The remote documents do not arrive unless a test lets them.
 struct AdsTest : testing::Test {
     AdsTest() {

@@ -6,10 +6,4 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-namespace orl {
-
-inline void PrintTo(const QString &text, std::ostream *out) {
-    *out << '"' << text.toStdString() << '"';
-}
-
-} // namespace orl
+namespace orl {} // namespace orl

@@ -10,10 +10,6 @@
 
 namespace orl {
 
-inline void PrintTo(const QString &text, std::ostream *out) {
-    *out << '"' << text.toStdString() << '"';
-}
-
 namespace test {
 
 inline QStringList ids(const QList<MailInfo> &mails) {

@@ -11,10 +11,6 @@
 
 namespace orl {
 
-inline void PrintTo(const QString &text, std::ostream *out) {
-    *out << '"' << text.toStdString() << '"';
-}
-
 namespace test {
 
 /// One message as the first website shows it.
