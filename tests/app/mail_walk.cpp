@@ -17,10 +17,10 @@ public:
     void offlineAndBack();
 
 protected:
-    /// A row's name is "sender, time: subject".
+    /// A row's name is "sender, time: subject". The toolkit takes it for a button.
     static Fits row(const QString &subject) {
         return [subject](const Accessible &control) {
-            return control.role() == QStringLiteral("list item") && control.name().contains(subject);
+            return isButton(control) && control.name().contains(subject);
         };
     }
 
@@ -47,8 +47,8 @@ protected:
 void MailWalk::buildAddress() {
     ASSERT_TRUE(host.start());
     startProgramWith(host);
-    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Germany")), "a country"));
-    ASSERT_NO_FATAL_FAILURE(press(number(QStringLiteral("+49")), "a number"));
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("United States")), "a country"));
+    ASSERT_NO_FATAL_FAILURE(press(number(QStringLiteral("+1")), "a number"));
     ASSERT_NO_FATAL_FAILURE(openTab());
     ASSERT_TRUE(wait(named(QStringLiteral("Create Your Temporary Email Address"))));
     lookAround(QStringLiteral("30-mail-builder"));
@@ -74,16 +74,16 @@ void MailWalk::watchMails() {
 void MailWalk::readMails() {
     ASSERT_NO_FATAL_FAILURE(
         openMail(QStringLiteral("Welcome to your inbox"), QStringLiteral("32-mail-html")));
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Private mode")), "private mode"));
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return wait(named(QStringLiteral("Private mode")))->isChecked(); }, 10000));
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Private mode")), "private mode"));
     ASSERT_NO_FATAL_FAILURE(closeMail());
     ASSERT_NO_FATAL_FAILURE(
         openMail(QStringLiteral("Photos of Sunday"), QStringLiteral("33-mail-attachments")));
     ASSERT_NO_FATAL_FAILURE(press(beginning(QStringLiteral("Harbour at noon.JPG")), "an attachment"));
     EXPECT_TRUE(wait(named(QStringLiteral("Attached picture"))));
     lookAtRest(QStringLiteral("34-mail-attachment"));
-    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Private mode")), "private mode"));
-    EXPECT_TRUE(
-        QTest::qWaitFor([&] { return wait(named(QStringLiteral("Private mode")))->isChecked(); }, 10000));
-    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Private mode")), "private mode"));
     ASSERT_NO_FATAL_FAILURE(closeMail());
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return wait(row(QStringLiteral("Welcome")))->description() == QStringLiteral("Read"); }, 20000))
@@ -97,7 +97,10 @@ void MailWalk::readMarksAfterARestart() {
     ASSERT_NO_FATAL_FAILURE(openTab());
     ASSERT_TRUE(wait(row(QStringLiteral("Photos of Sunday"))));
     EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return wait(row(QStringLiteral("Photos")))->description() == QStringLiteral("Read"); }, 30000))
+        [&] {
+            return wait(row(QStringLiteral("Photos of Sunday")))->description() == QStringLiteral("Read");
+        },
+        30000))
         << "read marks did not survive the kill";
 }
 

@@ -120,8 +120,9 @@ protected:
                 const auto *page = window_->findChild<QQuickItem *>(QStringLiteral("mailView"));
                 if (!page || page->property("loading").toBool()) return false;
                 picture = window_->grabWindow();
-                const QRectF place = page->mapRectToScene(page->boundingRect());
-                return coloursOf(picture.copy(place.toRect())) > 5;
+                const QRect place = page->mapRectToScene(page->boundingRect()).toRect() & picture.rect();
+                const bool inSight = place.bottom() < window_->height() && place.height() > 100;
+                return !inSight || coloursOf(picture.copy(place)) > 5; // large text may leave no room
             },
             30000))
             << station;

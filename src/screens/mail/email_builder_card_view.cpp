@@ -1,18 +1,12 @@
 #include "screens/mail/email_builder_card_view.h"
 
 #include "mail/address.h"
-#include "screens/mail/mail_ads.h"
 
 namespace orl {
 
-EmailBuilderCardView::EmailBuilderCardView(Process &process, AppConfigViewModel &appVM, const QString &domain,
-                                           Actions actions, QObject *parent)
-    : QObject(parent),
-      appVM_(appVM),
-      actions_(std::move(actions)),
-      domain_(domain),
-      blackBanner_(process, appVM),
-      nativeAd_(mailAd(process, appVM, QStringLiteral("change_email_top"))) {}
+EmailBuilderCardView::EmailBuilderCardView(AppConfigViewModel &appVM, const QString &domain, Actions actions,
+                                           QObject *parent)
+    : QObject(parent), appVM_(appVM), actions_(std::move(actions)), domain_(domain) {}
 
 QStringList EmailBuilderCardView::loginSuggestions() const {
     return Constants::loginSuggestions();

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "ads/black_banner.h"
-#include "ads/native_ad_card_view.h"
+#include "config/app_config_view_model.h"
 
 #include <QStringList>
 #include <QtQml/qqmlregistration.h>
@@ -22,8 +21,6 @@ class EmailBuilderCardView : public QObject {
     Q_PROPERTY(bool showLoginSuggestions READ showLoginSuggestions NOTIFY showLoginSuggestionsChanged)
     Q_PROPERTY(QStringList loginSuggestions READ loginSuggestions CONSTANT)
     Q_PROPERTY(QStringList domains READ domains CONSTANT)
-    Q_PROPERTY(orl::BlackBanner *blackBanner READ blackBanner CONSTANT)
-    Q_PROPERTY(orl::NativeAdCardView *nativeAd READ nativeAd CONSTANT)
 public:
     /// What is done with what the user decides.
     struct Actions {
@@ -32,7 +29,7 @@ public:
         std::function<void(const QString &domain)> selectDomain;
     };
 
-    EmailBuilderCardView(Process &process, AppConfigViewModel &appVM, const QString &domain, Actions actions,
+    EmailBuilderCardView(AppConfigViewModel &appVM, const QString &domain, Actions actions,
                          QObject *parent = nullptr);
 
     const QString &login() const { return login_; }
@@ -55,9 +52,6 @@ public:
     Q_INVOKABLE void create();
     Q_INVOKABLE void cancel() { actions_.cancel(); }
 
-    BlackBanner *blackBanner() { return &blackBanner_; }
-    NativeAdCardView *nativeAd() { return nativeAd_.get(); } ///< null where native ads are off
-
 Q_SIGNALS:
     void addressChanged();
     void showLoginSuggestionsChanged();
@@ -70,8 +64,6 @@ private:
     QString login_;
     QString domain_;
     bool showLoginSuggestions_ = false;
-    BlackBanner blackBanner_;
-    std::unique_ptr<NativeAdCardView> nativeAd_;
 };
 
 } // namespace orl

@@ -18,14 +18,12 @@ bool isPicture(const QString &fileName) {
 
 } // namespace
 
-MailDetailsView::MailDetailsView(Process &process, MailServiceViewModel &service, AppConfigViewModel &appVM,
-                                 QObject *parent)
+MailDetailsView::MailDetailsView(Process &process, MailServiceViewModel &service, QObject *parent)
     : QObject(parent),
       process_(process),
       service_(service),
       privacy_(process.shared<MailPrivacy>()),
-      attachments_({"name", "size", "image"}),
-      banner_(process, appVM) {
+      attachments_({"name", "size", "image"}) {
     connect(&privacy_, &MailPrivacy::isOnChanged, this, &MailDetailsView::makePage);
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "ads/banner_view.h"
 #include "mail/mail_privacy.h"
 #include "mail/mail_service_view_model.h"
 #include "screens/keyed_list_model.h"
@@ -30,12 +29,10 @@ class MailDetailsView : public QObject {
     Q_PROPERTY(bool isPrivate READ isPrivate NOTIFY pageChanged)
     Q_PROPERTY(bool withheld READ withheld NOTIFY pageChanged)
     Q_PROPERTY(int withheldPictures READ withheldPictures NOTIFY pageChanged)
-    Q_PROPERTY(orl::BannerView *banner READ banner CONSTANT)
 public:
     static constexpr std::chrono::seconds readAfter{1};
 
-    MailDetailsView(Process &process, MailServiceViewModel &service, AppConfigViewModel &appVM,
-                    QObject *parent = nullptr);
+    MailDetailsView(Process &process, MailServiceViewModel &service, QObject *parent = nullptr);
 
     /// Shows the mail that was opened, and marks it as read a second later whatever happens until then.
     void appear();
@@ -68,8 +65,6 @@ public:
     Q_INVOKABLE void togglePrivate();
     Q_INVOKABLE void showPictures();
 
-    BannerView *banner() { return &banner_; }
-
 Q_SIGNALS:
     void mailChanged();
     void imageToShowLinkChanged();
@@ -92,7 +87,6 @@ private:
     int pictures_ = 0;
     bool picturesShown_ = false;
     int pagesMade_ = 0; ///< a page that a later one has overtaken is dropped
-    BannerView banner_;
 };
 
 } // namespace orl

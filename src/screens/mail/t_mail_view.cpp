@@ -4,7 +4,6 @@
 #include "mail/address.h"
 #include "platform/defaults_store.h"
 #include "platform/queues.h"
-#include "screens/mail/mail_ads.h"
 
 #include <QPointer>
 
@@ -23,7 +22,7 @@ TMailView::TMailView(Process &process, MailServiceViewModel &service, InternetVi
       selectedDomain_(Constants::domains().first()),
       email_(process.platform().store.text(selectedEmailKey)),
       mails_(process, service),
-      details_(process, service, appVM),
+      details_(process, service),
       showShareButton_(email_.has_value()) {
     connect(&internet_, &InternetViewModel::isConnectedChanged, this, &TMailView::isOfflineChanged);
     connect(&service_, &MailServiceViewModel::foundOffline, this, [this] {
@@ -82,17 +81,13 @@ void TMailView::setEmail(const std::optional<QString> &email) {
                                             });
 }
 
-/// Each form of the screen has its own card and ad, made anew each time.
+/// The card is made anew each time.
 void TMailView::build() {
-    if (email_) {
-        nativeAd_ = mailAd(process_, appVM_, QStringLiteral("tmail_results"));
-        // Its own button may have brought us here.
-        if (builder_) builder_.release()->deleteLater();
-        return;
-    }
-    nativeAd_.reset();
+    // Its own button may have brought us here.
+    if (builder_) builder_.release()->deleteLater();
+    if (email_) return;
     builder_ = std::make_unique<EmailBuilderCardView>(
-        process_, appVM_, selectedDomain_,
+        appVM_, selectedDomain_,
         EmailBuilderCardView::Actions{
             .create =
                 [this](const QString &address) {

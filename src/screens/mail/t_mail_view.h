@@ -9,6 +9,9 @@
 
 #include <QUuid>
 
+#include <memory>
+#include <optional>
+
 namespace orl {
 
 /// The mail tab: without an address the card that makes one, with an address its inbox, over which a mail is
@@ -28,7 +31,6 @@ class TMailView : public QObject {
     Q_PROPERTY(bool keepsReader READ keepsReader NOTIFY keepsReaderChanged)
     Q_PROPERTY(bool isOffline READ isOffline NOTIFY isOfflineChanged)
     Q_PROPERTY(orl::TMailAlertViewModel *alert READ alert CONSTANT)
-    Q_PROPERTY(orl::NativeAdCardView *nativeAd READ nativeAd NOTIFY emailChanged)
 public:
     static constexpr std::chrono::milliseconds fetchAfter{200};       ///< of an appearance
     static constexpr std::chrono::milliseconds shareButtonAfter{500}; ///< of another address
@@ -50,7 +52,6 @@ public:
     bool showShareButton() const { return showShareButton_; }
     bool isOffline() const { return !internet_.isConnected(); }
     TMailAlertViewModel *alert() { return &alert_; }
-    NativeAdCardView *nativeAd() const { return nativeAd_.get(); } ///< null where there is none
 
     bool showMailDetails() const { return showMailDetails_; }
     MailDetailsView *details() { return &details_; }
@@ -98,7 +99,6 @@ private:
     QString selectedDomain_;
     std::optional<QString> email_;
     std::unique_ptr<EmailBuilderCardView> builder_;
-    std::unique_ptr<NativeAdCardView> nativeAd_;
     MailRows mails_;
     MailDetailsView details_;
     bool progress_ = true;

@@ -109,19 +109,12 @@ Flickable {
                     Layout.fillWidth: true
                     onClicked: root.view.cancel()
                 }
-                Loader {
-                    active: root.view.blackBanner.banner
-                    visible: active
-                    Layout.fillWidth: true
-                    sourceComponent: AdBanner { banner: root.view.blackBanner.banner }
-                }
+                BlackBannerPlace { Layout.fillWidth: true }
             }
         }
-        Loader {
-            active: root.view.nativeAd
-            visible: active
+        NativeAdSlot {
+            slot: "change_email_top"
             Layout.fillWidth: true
-            sourceComponent: NativeAdCard { view: root.view.nativeAd }
         }
     }
 }

@@ -71,7 +71,8 @@ FocusScope {
                     id: web
                     property bool wanted: false
                     // Not by its type: that would bring the web engine in with this file.
-                    readonly property bool failed: status === Loader.Error || (item !== null && !item.usable)
+                    readonly property var shown: item
+                    readonly property bool failed: status === Loader.Error || (shown !== null && !shown.usable)
                     anchors.fill: parent
                     anchors.margins: Theme.space2
                     active: wanted
@@ -119,11 +120,10 @@ FocusScope {
             }
         }
     }
-    AdBanner {
+    AnchoredBanner {
         id: banner
         anchors.bottom: parent.bottom
         width: parent.width
-        banner: root.view.banner
     }
     TopBar {
         id: bar

@@ -15,7 +15,6 @@ Pressable {
     leftPadding: Theme.space2
     rightPadding: Theme.space2
     scale: 1
-    Accessible.role: Accessible.ListItem
     Accessible.description: unread ? "Unread" : "Read"
     background: Item {
         Rectangle {

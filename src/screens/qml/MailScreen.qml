@@ -25,6 +25,9 @@ FocusScope {
                 text: "Temp Mail"
                 font.pixelSize: Theme.titleSize
                 font.weight: Font.Bold
+                wrapMode: Text.NoWrap
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: Theme.textSize
                 Layout.fillWidth: true
                 Accessible.role: Accessible.Heading
             }
@@ -60,6 +63,17 @@ FocusScope {
         id: inbox
         ListView {
             id: list
+            // Until the user scrolls, the top stays in sight whatever comes in.
+            property bool atTop: true
+            Timer {
+                id: settle
+                interval: 0
+                onTriggered: if (list.atTop) list.positionViewAtBeginning()
+            }
+            onMovementStarted: atTop = false
+            onMovementEnded: atTop = atYBeginning
+            onCountChanged: settle.restart()
+            onWidthChanged: settle.restart()
             focus: true
             activeFocusOnTab: true
             keyNavigationEnabled: true
@@ -70,6 +84,7 @@ FocusScope {
             header: MailAddressCard {
                 width: list.width
                 view: root.view
+                onHeightChanged: settle.restart()
             }
             footer: Column {
                 width: list.width
@@ -79,11 +94,9 @@ FocusScope {
                     visible: list.count === 0
                     progress: root.view.progress
                 }
-                Loader {
+                NativeAdSlot {
                     width: parent.width
-                    active: root.view.nativeAd
-                    visible: active
-                    sourceComponent: NativeAdCard { view: root.view.nativeAd }
+                    slot: "tmail_results"
                 }
             }
             Accessible.role: Accessible.List

@@ -1,3 +1,5 @@
+// The page reaches its frame by an id, which this lint takes for a name from nowhere.
+// qmllint disable unqualified
 import QtQuick
 import QtQuick.Layouts
 import Orl.Web

@@ -76,10 +76,10 @@ Item {
         }
         onLoadingChanged: info => {
             if (info.status === WebEngineView.LoadStartedStatus) return root.clear();
-            if (info.url.toString() === web.address.toString()) root.ready = true;
+            if (String(info.url) === String(web.address)) root.ready = true;
             web.loadEnded();
         }
-        onLinkHovered: url => root.hovered = url.toString() === "" ? "" : web.shown(url)
+        onLinkHovered: url => root.hovered = String(url) === "" ? "" : web.shown(url)
 
         onFeaturePermissionRequested: (origin, feature) => view.grantFeaturePermission(origin, feature, false)
         onCertificateError: error => error.rejectCertificate()
@@ -107,7 +107,7 @@ Item {
         onFileSystemAccessRequested: request => request.reject()
         onFullScreenRequested: request => request.reject()
     }
-    readonly property bool onMail: view.url.toString() === web.address.toString()
+    readonly property bool onMail: String(view.url) === String(web.address)
 
     Connections {
         target: web.profile
