@@ -1,5 +1,6 @@
 // What a refresh costs the main thread while 1,000 messages are shown. Workers, which read and parse the
 // page, run aside and are not counted.
+#include "message_page.h"
 #include "platform/qt/sqlite_store.h"
 #include "platform/qt/system_ports.h"
 #include "screens/content_view.h"
@@ -28,22 +29,6 @@ double threadTime() {
     return double(now.tv_sec) + double(now.tv_nsec) / 1e9;
 }
 
-/// The markup that the compiled recipe reads.
-QByteArray page(int senders, int newest) {
-    QByteArray body;
-    for (int i = 0; i < messageCount; ++i) {
-        const int number = newest - i;
-        body +=
-            "<div class=\"shadow-sm bg-light rounded border-start border-info border-5\"><div class=\"mb-1\">"
-            "Sender " +
-            QByteArray::number(number % senders) + "</div><div class=\"placeholder text-break\">" +
-            QByteArray::number(400000 + number) + " is your code, see https://example.example/" +
-            QByteArray::number(number) + "</div></div><div class=\"mt-3\"><span data-created=\"2025-12-31T" +
-            QByteArray::number(10 + number % 12) + ":23:45.000000Z\"></span></div>";
-    }
-    return "<html><body>" + body + "</body></html>";
-}
-
 /// The phone with a real store, the home screen and, where asked for, the window that shows it.
 class Phone {
 public:
@@ -66,7 +51,7 @@ public:
 
     RequestViewModel &request() { return content_->requestVM(); }
 
-    void setNewest(int newest) { played_.urls.answer(url(), page(senders_, newest)); }
+    void setNewest(int newest) { played_.urls.answer(url(), messagePage(messageCount, senders_, newest)); }
 
     /// Processor time that one refresh takes of the main thread, in seconds.
     double refresh() {

@@ -194,7 +194,9 @@ Result<QList<Message>> RequestViewModel::Worker::parseMessagesPage(const QUrl &u
 // A picture if there is one for the name, a gradient with letters otherwise.
 SMSSender RequestViewModel::Worker::senderLook(SMSSender sender) const {
     sender.icon = senderIcon(platform.endpoints, *state->icons.get(), sender.name);
-    return sender.icon ? sender : withGradient(sender, state->gradientColorIndex);
+    if (!sender.icon) return withGradient(std::move(sender), state->gradientColorIndex);
+    sender.iconText.reset();
+    return sender;
 }
 
 SMSSender RequestViewModel::assignGradient(SMSSender sender) {
@@ -232,6 +234,7 @@ void RequestViewModel::groupMessages(const QList<Message> &list) {
         sender.id = freshUuidText();
         sender.name = message.sender.name;
         sender.messages = {message};
+        sender.iconText = message.sender.iconText; // of the same name, and a worker took its time over it
         sender = look.senderLook(std::move(sender));
         if (ads && rows.size() % sendersPerAd == 0) append(adSender(rows.size()));
         append(std::move(sender));

@@ -14,8 +14,8 @@ namespace orl {
 std::optional<QString> senderIcon(const Endpoints &endpoints, const QStringList &icons,
                                   const QString &senderName);
 
-/// The sender with the gradient pair at the index and its letters; moves the index on. Two fetches at once
-/// may take the same pair, which harms nobody.
+/// The sender with the gradient pair at the index and its letters, which are worked out unless it has them;
+/// moves the index on. Two fetches at once may take the same pair, which harms nobody.
 SMSSender withGradient(SMSSender sender, std::atomic<int> &index);
 
 } // namespace orl

@@ -7,7 +7,6 @@
 #include "support/played_ads.h"
 #include "support/played_notifications.h"
 #include "support/played_platform.h"
-#include "support/print_text.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

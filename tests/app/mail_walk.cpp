@@ -45,8 +45,9 @@ protected:
 };
 
 void MailWalk::buildAddress() {
+    host.setConfiguration({}); // no ads
     ASSERT_TRUE(host.start());
-    startProgramWith(host);
+    startProgram(servedBy(host));
     ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("United States")), "a country"));
     ASSERT_NO_FATAL_FAILURE(press(number(QStringLiteral("+1")), "a number"));
     ASSERT_NO_FATAL_FAILURE(openTab());
@@ -93,7 +94,7 @@ void MailWalk::readMails() {
 
 void MailWalk::readMarksAfterARestart() {
     killProgram();
-    startProgramWith(host);
+    startProgram(servedBy(host));
     ASSERT_NO_FATAL_FAILURE(openTab());
     ASSERT_TRUE(wait(row(QStringLiteral("Photos of Sunday"))));
     EXPECT_TRUE(QTest::qWaitFor(

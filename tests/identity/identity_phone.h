@@ -2,7 +2,6 @@
 
 #include "identity/sample_identities.h"
 #include "support/played_platform.h"
-#include "support/print_text.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -3,7 +3,6 @@
 #include "mail/mail_service_view_model.h"
 #include "mail_json.h"
 #include "support/played_platform.h"
-#include "support/print_text.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -4,7 +4,6 @@
 #include "numbers/request_view_model.h"
 #include "support/played_notifications.h"
 #include "support/played_platform.h"
-#include "support/print_text.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

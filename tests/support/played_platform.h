@@ -12,9 +12,15 @@
 
 #include <map>
 #include <optional>
+#include <ostream>
 #include <stdexcept>
 
 namespace orl {
+
+/// How a failed test shows a text.
+inline void PrintTo(const QString &text, std::ostream *out) {
+    *out << '"' << text.toStdString() << '"';
+}
 
 /// The defaults store in memory. `values` may be looked at and changed at will.
 class PlayedStore : public DefaultsStore {

@@ -18,6 +18,7 @@ Item {
     readonly property bool atEnd: mine !== LayoutMirroring.enabled
 
     implicitHeight: column.implicitHeight
+    activeFocusOnTab: ListView.isCurrentItem || activeFocus
     Accessible.role: Accessible.ListItem
     Accessible.name: time === "" ? content : time + ": " + content
 
@@ -52,6 +53,10 @@ Item {
                 radius: parent.radius - anchors.margins
                 color: parent.color
             }
+            FocusFrame {
+                control: root
+                cornerRadius: Theme.cardRadius
+            }
             MessageWords {
                 id: words
                 anchors.fill: parent
@@ -73,6 +78,7 @@ Item {
         }
         ExportChips {
             exports: root.exports
+            inTabOrder: root.ListView.isCurrentItem
             LayoutMirroring.enabled: root.atEnd
             LayoutMirroring.childrenInherit: true
             Layout.fillWidth: true

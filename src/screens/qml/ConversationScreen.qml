@@ -28,6 +28,8 @@ FocusScope {
         cacheBuffer: Theme.phoneHeight
         boundsBehavior: Flickable.StopAtBounds
         model: root.view.cards
+        highlightFollowsCurrentItem: false
+        onCountChanged: if (!activeFocus) currentIndex = count - 1
         Accessible.role: Accessible.List
         Accessible.name: "Messages"
         delegate: ChatMessageCard {
@@ -69,6 +71,7 @@ FocusScope {
             }
         }
     }
+    KeepInSight { list: list }
     StateMessage {
         anchors.top: bar.bottom
         anchors.horizontalCenter: parent.horizontalCenter

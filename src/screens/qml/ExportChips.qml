@@ -7,6 +7,7 @@ import QtQuick.Layouts
 ColumnLayout {
     id: root
     required property list<string> exports
+    property bool inTabOrder: true // a long list is gone through row by row
     signal tapped(string entry)
 
     visible: exports.length > 0
@@ -17,17 +18,26 @@ ColumnLayout {
         color: Theme.secondary
         font.pixelSize: Theme.secondarySize
     }
+    // Made by hand: a Repeater in a card that the list drops while it is still making it complains of that.
     Flow {
+        id: chips
         spacing: Theme.space2
         Layout.fillWidth: true
-        Repeater {
-            model: root.exports
-            ExportChip {
-                required property string modelData
-                entry: modelData
-                width: Math.min(implicitWidth, root.width)
-                onClicked: root.tapped(entry)
-            }
+    }
+    Component {
+        id: chip
+        ExportChip {
+            width: Math.min(implicitWidth, root.width)
+            activeFocusOnTab: root.inTabOrder || activeFocus
+            onClicked: root.tapped(entry)
         }
+    }
+    onExportsChanged: fill()
+
+    function fill() {
+        for (let i = chips.children.length; i-- > 0;)
+            chips.children[i].destroy();
+        for (let i = 0; i < exports.length; ++i)
+            chip.createObject(chips, { entry: exports[i] });
     }
 }

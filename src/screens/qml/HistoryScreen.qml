@@ -9,6 +9,13 @@ Item {
     required property HistoryView view
     signal backTapped
 
+    TopBar {
+        id: bar
+        z: 1
+        width: parent.width
+        title: "History"
+        onBackTapped: root.backTapped()
+    }
     ListView {
         id: list
         anchors.top: bar.bottom
@@ -41,12 +48,6 @@ Item {
         drawing: "no_history"
         title: "No numbers yet"
         sentence: "The numbers that you choose are kept here, so that you find them again."
-    }
-    TopBar {
-        id: bar
-        width: parent.width
-        title: "History"
-        onBackTapped: root.backTapped()
     }
     NumberChoiceDialogs {
         anchors.fill: parent

@@ -34,13 +34,32 @@ Item {
         Timer {
             id: settle
             interval: 0
-            onTriggered: if (list.atTop) list.positionViewAtBeginning()
+            onTriggered: {
+                if (list.atTop) list.positionViewAtBeginning();
+                list.chooseCurrent();
+            }
         }
         onMovementStarted: atTop = false
-        onMovementEnded: atTop = atYBeginning
+        onMovementEnded: {
+            atTop = atYBeginning;
+            settle.restart();
+        }
         // A page that brings as many rows as it takes away leaves the count alone.
         onOriginYChanged: settle.restart()
         onContentHeightChanged: settle.restart()
+
+        // The arrow keys go from row to row; Tab comes to the first one in sight, between the head and the foot.
+        highlightFollowsCurrentItem: false
+        onCurrentItemChanged: {
+            FocusOrder.putBefore(currentItem, footerItem);
+            FocusOrder.putBefore(headerItem, currentItem);
+        }
+        function enterRows() {
+            if (currentItem) currentItem.forceActiveFocus(Qt.TabFocusReason);
+        }
+        function chooseCurrent() {
+            if (!activeFocus || !Theme.keyboardInUse) currentIndex = count > 0 ? Math.max(indexAt(0, contentY), 0) : -1;
+        }
         onWidthChanged: settle.restart()
         Component.onCompleted: layOut()
         anchors.top: parent.top
@@ -56,10 +75,14 @@ Item {
             width: list.width
             view: root.view
             onHeightChanged: settle.restart()
+            Keys.onDownPressed: list.enterRows()
+            Keys.onUpPressed: event => event.accepted = true
         }
         footer: Column {
             width: list.width
             bottomPadding: Theme.margin
+            Keys.onUpPressed: list.enterRows()
+            Keys.onDownPressed: event => event.accepted = true
             HomeState {
                 width: parent.width
                 view: root.view
@@ -73,14 +96,20 @@ Item {
         Accessible.role: Accessible.List
         Accessible.name: "Messages"
     }
+    KeepInSight {
+        list: list
+        onReachedChanged: list.atTop = list.atYBeginning
+    }
     DelegateChooser {
         id: messageCard
         role: "slot"
         DelegateChoice {
             roleValue: ""
             MessageCard {
+                required property int index
                 width: ListView.view.width
                 gap: Theme.space2
+                onActiveFocusChanged: if (activeFocus) list.currentIndex = index
                 onExportTapped: entry => root.view.tapExport(entry)
             }
         }
@@ -95,6 +124,7 @@ Item {
                 required property int index
                 width: ListView.view.width
                 gap: Theme.space2
+                onActiveFocusChanged: if (activeFocus) list.currentIndex = index
                 onClicked: root.view.tapSender(index)
             }
         }

@@ -16,12 +16,17 @@ Item {
     signal exportTapped(string entry)
 
     implicitHeight: column.implicitHeight + 2 * Theme.space4 + gap
+    activeFocusOnTab: ListView.isCurrentItem || activeFocus
     Accessible.role: Accessible.ListItem
     Accessible.name: sender + ", " + age + ": " + content
 
     Card {
         anchors.fill: parent
         anchors.bottomMargin: root.gap
+        FocusFrame {
+            control: root
+            cornerRadius: Theme.cardRadius
+        }
     }
     ColumnLayout {
         id: column
@@ -58,6 +63,7 @@ Item {
         }
         ExportChips {
             exports: root.exports
+            inTabOrder: root.ListView.isCurrentItem
             Layout.fillWidth: true
             Layout.topMargin: Theme.space1
             onTapped: entry => root.exportTapped(entry)

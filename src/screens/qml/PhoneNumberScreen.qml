@@ -11,6 +11,14 @@ Item {
 
     visible: view.state !== PhoneNumberView.Nothing
 
+    TopBar {
+        id: bar
+        z: 1
+        width: parent.width
+        title: root.view.countryName
+        flag: root.view.flag
+        onBackTapped: root.backTapped()
+    }
     ListView {
         id: list
         anchors.top: bar.bottom
@@ -57,13 +65,6 @@ Item {
         subtitle: "Please check your internet connection, or change the country and try again."
         btnTitle: "Try Again"
         onAction: root.view.load()
-    }
-    TopBar {
-        id: bar
-        width: parent.width
-        title: root.view.countryName
-        flag: root.view.flag
-        onBackTapped: root.backTapped()
     }
     AnchoredBanner {
         id: banner

@@ -13,6 +13,7 @@ Pressable {
     required property avatarFace face
 
     text: name + ", " + time + ": " + content
+    activeFocusOnTab: ListView.isCurrentItem || activeFocus
     cornerRadius: Theme.cardRadius
     padding: Theme.space3
     bottomPadding: padding + gap

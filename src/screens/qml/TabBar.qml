@@ -31,7 +31,7 @@ Rectangle {
                 required property int index
                 width: Math.min(root.width, Theme.columnWidth) / root.tabs.count
                 checked: index === root.selectedIndex
-                activeFocusOnTab: checked
+                activeFocusOnTab: checked || activeFocus
                 onClicked: root.selected(index)
                 Keys.onLeftPressed: root.go(root.LayoutMirroring.enabled ? 1 : -1)
                 Keys.onRightPressed: root.go(root.LayoutMirroring.enabled ? -1 : 1)
