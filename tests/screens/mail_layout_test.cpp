@@ -5,6 +5,7 @@
 #include "screens/review_prompt.h"
 #include "screens/screens.h"
 
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QJsonDocument>
 #include <QQmlApplicationEngine>
@@ -234,6 +235,23 @@ TEST_P(MailLayoutTest, Mails) {
     mail().details()->togglePrivate();
     mail().closeMail();
     look("mail-inbox-read");
+}
+
+/// As root, and not told to do without its sandbox, the web engine would end the program.
+TEST_P(MailLayoutTest, WordsWhereTheWebEngineMayNotRun) {
+    if (QFileInfo(QStringLiteral("/proc/self")).ownerId() != 0) GTEST_SKIP() << "root alone is refused";
+    const QByteArray told = qgetenv("QTWEBENGINE_DISABLE_SANDBOX");
+    qunsetenv("QTWEBENGINE_DISABLE_SANDBOX");
+    phone.store.setValue("selected_email", address);
+    answerDemoInbox();
+    openTab();
+    phone.advance(std::chrono::seconds(3));
+    show();
+    mail().tapMail(rowOf(QStringLiteral("Orl")));
+    look("mail-words");
+    EXPECT_EQ(window_->findChild<QQuickItem *>(QStringLiteral("mailView")), nullptr);
+    EXPECT_TRUE(mail().details()->text().startsWith(QStringLiteral("Your inbox is ready\nMail to ")));
+    qputenv("QTWEBENGINE_DISABLE_SANDBOX", told);
 }
 
 INSTANTIATE_TEST_SUITE_P(Looks, MailLayoutTest, testing::ValuesIn(looks),
