@@ -50,7 +50,7 @@ FocusScope {
     // The native card above the tabs, which the user closes.
     Loader {
         id: card
-        readonly property bool covers: item !== null && item.view.isPresented
+        readonly property bool covers: item !== null && (item as NativeAdXMark).view.isPresented
         anchors.fill: parent
         active: Ads.places !== null && Ads.places.nativeAdEnabled
         focus: covers

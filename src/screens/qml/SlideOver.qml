@@ -45,7 +45,7 @@ Item {
     onKeptChanged: settle()
     function settle() {
         if (!visible && !kept) loader.setSource("");
-        else if (visible && loader.source.toString() === "") loader.setSource(source, { view: root.view });
+        else if (visible && loader.status === Loader.Null) loader.setSource(source, { view: root.view });
     }
     onShownChanged: if (shown) sheet.forceActiveFocus()
 }
