@@ -167,6 +167,8 @@ private:
         if (!item.isVisible() || item.opacity() == 0) return;
         if (item.inherits("QQuickAbstractButton") || item.inherits("QQuickTextField")) checkControl(item);
         if (item.inherits("QQuickText")) checkText(item);
+        if (item.property("contentWidth").toDouble() > item.width() && item.inherits("QQuickFlickable"))
+            return; // a row that is scrolled sideways
         for (const QQuickItem *child : item.childItems())
             check(*child);
     }

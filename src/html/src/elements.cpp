@@ -32,6 +32,21 @@ Element Elements::get(std::size_t index) const {
     return Element(core::nodeAt(this_.refs()[index]));
 }
 
+// Out of the header, so that what a list is made of stays within the library.
+Elements::Elements(const Elements &other) = default;
+Elements::Elements(Elements &&other) noexcept = default;
+Elements &Elements::operator=(const Elements &other) = default;
+Elements &Elements::operator=(Elements &&other) noexcept = default;
+Elements::~Elements() = default;
+
+void Elements::add(std::size_t index, const Element &element) {
+    this_.insert(index, element.record());
+}
+
+bool Elements::operator==(const Elements &other) const {
+    return this_.refs() == other.this_.refs();
+}
+
 Elements::Elements(const std::vector<Element> &elements) {
     for (const Element &element : elements)
         add(element);

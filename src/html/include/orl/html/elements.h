@@ -80,6 +80,11 @@ public:
     using const_iterator = ElementsIterator;
 
     Elements() = default;
+    Elements(const Elements &other);
+    Elements(Elements &&other) noexcept;
+    Elements &operator=(const Elements &other);
+    Elements &operator=(Elements &&other) noexcept;
+    ~Elements();
     Elements(const std::vector<Element> &elements);
     Elements(std::initializer_list<Element> elements);
     explicit Elements(const OrderedSet<Element> &elements);
@@ -142,7 +147,7 @@ public:
 
     void add(const Element &element) { add(size(), element); }
     /// The place must not be past the end.
-    void add(std::size_t index, const Element &element) { this_.insert(index, element.record()); }
+    void add(std::size_t index, const Element &element);
     /// The place must exist.
     Element get(std::size_t index) const;
     std::vector<Element> array() const;
@@ -154,9 +159,7 @@ public:
     const_iterator end() const { return this_.refs().end(); }
 
     /// The same elements in the same order.
-    friend bool operator==(const Elements &left, const Elements &right) {
-        return left.this_.refs() == right.this_.refs();
-    }
+    bool operator==(const Elements &other) const;
     std::size_t hashValue() const;
 
     /// The entries of `elements` that are none of `outs`.

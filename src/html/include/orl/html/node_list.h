@@ -57,7 +57,7 @@ private:
 /// A list that a search gave keeps the arena as a whole, which costs the same however long it is. Only when
 /// something of the arena is about to be given back does it count itself as a holder of each node; who
 /// changes it makes it do so too.
-class ORL_HTML_API NodeList {
+class NodeList {
 public:
     NodeList() = default;
     /// Nodes of one arena.
