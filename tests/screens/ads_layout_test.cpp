@@ -4,6 +4,7 @@
 #include "ads/native_ad_card_view.h"
 #include "ads/native_ad_view_xmark.h"
 #include "demo/ad_picture.h"
+#include "looks.h"
 #include "resting.h"
 #include "screens/ad_images.h"
 #include "screens/screens.h"
@@ -21,20 +22,7 @@ namespace orl {
 
 namespace {
 
-struct AdLook {
-    const char *name;
-    int width = 390;
-    int height = 844;
-    bool dark = false;
-    double textScale = 1;
-    bool rightToLeft = false;
-};
-
-void PrintTo(const AdLook &look, std::ostream *out) {
-    *out << look.name;
-}
-
-constexpr AdLook adLooks[] = {
+constexpr Look adLooks[] = {
     {"phone"},
     {"phone_dark", 390, 844, true},
     {"narrow_large_text", 360, 640, false, 2},
@@ -42,13 +30,7 @@ constexpr AdLook adLooks[] = {
     {"desktop_dark", 1000, 700, true},
 };
 
-QStringList complaints;
-
-void noteComplaint(QtMsgType type, const QMessageLogContext &, const QString &text) {
-    if (type != QtDebugMsg && type != QtInfoMsg) complaints << text;
-}
-
-struct AdsLayoutTest : AdsTest, testing::WithParamInterface<AdLook> {
+struct AdsLayoutTest : AdsTest, testing::WithParamInterface<Look> {
     AdsLayoutTest() {
         complaints.clear();
         previous = qInstallMessageHandler(noteComplaint);
@@ -78,7 +60,7 @@ struct AdsLayoutTest : AdsTest, testing::WithParamInterface<AdLook> {
         engine = std::make_unique<QQmlEngine>();
         prepareScreens(*engine, process->platform());
         prepareAds(*engine, *process);
-        const AdLook &look = GetParam();
+        const Look &look = GetParam();
         const auto flag = [](bool on) { return on ? QByteArray("true") : QByteArray("false"); };
         QQmlComponent component(engine.get());
         component.setData("import QtQuick\nimport Orl.Screens\nRectangle {\n required property var view\n"

@@ -2,6 +2,7 @@
 // pictures in the folder "pictures" beside the test.
 
 #include "identity/sample_identities.h"
+#include "looks.h"
 #include "resting.h"
 #include "screens/gallery.h"
 #include "screens/screens.h"
@@ -18,20 +19,7 @@
 namespace orl {
 namespace {
 
-struct IdentityLook {
-    const char *name;
-    int width = 390;
-    int height = 844;
-    bool dark = false;
-    double textScale = 1;
-    bool rightToLeft = false;
-};
-
-void PrintTo(const IdentityLook &look, std::ostream *out) {
-    *out << look.name;
-}
-
-constexpr IdentityLook identityLooks[] = {
+constexpr Look identityLooks[] = {
     {"phone"},
     {"phone_dark", 390, 844, true},
     {"narrow", 360, 640},
@@ -40,22 +28,13 @@ constexpr IdentityLook identityLooks[] = {
     {"wide", 900, 700},
 };
 
-QStringList complaints;
-
-void noteComplaint(QtMsgType type, const QMessageLogContext &, const QString &text) {
-    if (type != QtDebugMsg && type != QtInfoMsg) complaints << text;
-}
-
 /// A window is looked at as a whole: what can be tapped has a name, a size for a thumb and lies within it.
-class IdentityLayoutTest : public ScreensTest, public testing::WithParamInterface<IdentityLook> {
+class IdentityLayoutTest : public ScreensTest, public testing::WithParamInterface<Look> {
 protected:
     IdentityLayoutTest() {
         complaints.clear();
         previous_ = qInstallMessageHandler(noteComplaint);
-        appearance.setDark(GetParam().dark);
-        appearance.setTextScale(GetParam().textScale);
-        appearance.setRightToLeft(GetParam().rightToLeft);
-        appearance.setReducedMotion(true);
+        setUp(appearance, GetParam());
     }
     ~IdentityLayoutTest() override {
         engine.reset();

@@ -1,5 +1,6 @@
 #include "ads/native_ad_view_xmark.h"
 #include "demo/ad_picture.h"
+#include "looks.h"
 #include "platform/qt/stored_consent.h"
 #include "resting.h"
 #include "screens/ad_images.h"
@@ -23,20 +24,6 @@ using test::Sms;
 
 namespace {
 
-/// One way in which a user may have set up the device.
-struct Look {
-    const char *name;
-    int width = 390;
-    int height = 844;
-    bool dark = false;
-    double textScale = 1;
-    bool rightToLeft = false;
-};
-
-void PrintTo(const Look &look, std::ostream *out) {
-    *out << look.name;
-}
-
 constexpr Look looks[] = {
     {"phone"},
     {"phone_dark", 390, 844, true},
@@ -47,12 +34,6 @@ constexpr Look looks[] = {
     {"desktop", 1000, 700},
 };
 
-QStringList complaints;
-
-void noteComplaint(QtMsgType type, const QMessageLogContext &, const QString &text) {
-    if (type != QtDebugMsg && type != QtInfoMsg) complaints << text;
-}
-
 /// Draws the real screens and looks at what can be measured of them. Keeps a picture of each in the folder
 /// "pictures" beside the test.
 class LayoutTest : public ScreensTest, public testing::WithParamInterface<Look> {
@@ -60,10 +41,7 @@ protected:
     LayoutTest() {
         complaints.clear();
         previous_ = qInstallMessageHandler(noteComplaint);
-        appearance.setDark(GetParam().dark);
-        appearance.setTextScale(GetParam().textScale);
-        appearance.setRightToLeft(GetParam().rightToLeft);
-        appearance.setReducedMotion(true);
+        setUp(appearance, GetParam());
     }
 
     ~LayoutTest() override {

@@ -1,5 +1,6 @@
 #include "demo/demo_host.h"
 #include "demo/mail/mailboxes.h"
+#include "looks.h"
 #include "mail_screens_phone.h"
 #include "resting.h"
 #include "screens/review_prompt.h"
@@ -20,19 +21,6 @@ using namespace orl;
 
 namespace {
 
-struct Look {
-    const char *name;
-    int width = 390;
-    int height = 844;
-    bool dark = false;
-    double textScale = 1;
-    bool rightToLeft = false;
-};
-
-void PrintTo(const Look &look, std::ostream *out) {
-    *out << look.name;
-}
-
 constexpr Look looks[] = {
     {"phone"},
     {"phone_dark", 390, 844, true},
@@ -41,13 +29,11 @@ constexpr Look looks[] = {
     {"desktop", 1000, 700},
 };
 
-QStringList complaints;
-
-void noteComplaint(QtMsgType type, const QMessageLogContext &, const QString &text) {
+void noteOurComplaint(QtMsgType type, const QMessageLogContext &context, const QString &text) {
     // The web engine tells on itself when it starts.
     static const QRegularExpression known(
         QStringLiteral("^(QWebEngine|Sandboxing|Init Parameters|GLImplementation|No suitable)"));
-    if (type != QtDebugMsg && type != QtInfoMsg && !text.trimmed().contains(known)) complaints << text;
+    if (!text.trimmed().contains(known)) noteComplaint(type, context, text);
 }
 
 /// Draws the mail tab with the mails of the demo host and looks at what can be measured. Keeps a picture of
@@ -56,11 +42,8 @@ class MailLayoutTest : public MailScreensTest, public testing::WithParamInterfac
 protected:
     MailLayoutTest() {
         complaints.clear();
-        previous_ = qInstallMessageHandler(noteComplaint);
-        appearance.setDark(GetParam().dark);
-        appearance.setTextScale(GetParam().textScale);
-        appearance.setRightToLeft(GetParam().rightToLeft);
-        appearance.setReducedMotion(true);
+        previous_ = qInstallMessageHandler(noteOurComplaint);
+        setUp(appearance, GetParam());
         EXPECT_TRUE(pictures_.start());
     }
 
