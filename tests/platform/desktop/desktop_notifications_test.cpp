@@ -34,9 +34,11 @@ protected:
         return {identifier, title, QStringLiteral("New message...!"), QStringLiteral("swiftsound.caf")};
     }
 
+    void settle() { orl::settle(client, QStringLiteral("org.freedesktop.Notifications")); }
+
     bool shows(std::size_t count) {
         const bool reached = waitUntil([&] { return server->shown.size() >= count; });
-        settle(client); // the server's answer is here, too
+        settle(); // the server's answer is here, too
         return reached;
     }
 
@@ -54,11 +56,11 @@ TEST_F(DesktopNotificationsTest, PermissionIsThatAServerAnswers) {
     EXPECT_TRUE(permission());
     EXPECT_EQ(server->asked, 1) << "the answer holds as long as the server stays";
     server->leaveBus();
-    settle(client);
+    settle();
     EXPECT_FALSE(permission());
     notifications.add(notification(QStringLiteral("a")));
     startServer();
-    settle(client);
+    settle();
     EXPECT_TRUE(permission());
     EXPECT_TRUE(server->shown.empty());
 }
@@ -78,7 +80,7 @@ TEST_F(DesktopNotificationsTest, AServerThatHangsHoldsUpNothing) {
     for (int i = 0; i < 3; ++i)
         notifications.requestPermission([&](bool) { ++answers; });
     EXPECT_TRUE(waitUntil([&] { return server->asked > 0; }));
-    settle(client);
+    settle();
     EXPECT_EQ(server->asked, 1);
     EXPECT_EQ(answers, 0);
 }
@@ -141,9 +143,9 @@ TEST_F(DesktopNotificationsTest, RemovingClosesWhatIsShownOrUnderWay) {
     notifications.removeAllDelivered(); // "c" is not answered yet
     ASSERT_TRUE(waitUntil([&] { return server->closed.size() == 3; }));
     EXPECT_EQ(QSet<uint>(server->closed.begin(), server->closed.end()).size(), 3);
-    settle(client);
+    settle();
     notifications.removeAllDelivered();
-    settle(client);
+    settle();
     EXPECT_EQ(server->closed.size(), 3);
 }
 
@@ -169,7 +171,7 @@ TEST_F(DesktopNotificationsTest, WhatTheUserDismissedIsNotReplaced) {
     notifications.add(notification(QStringLiteral("a")));
     ASSERT_TRUE(shows(1));
     Q_EMIT server->NotificationClosed(server->shown.front().id, 2);
-    settle(client);
+    settle();
     notifications.add(notification(QStringLiteral("a")));
     ASSERT_TRUE(shows(2));
     EXPECT_EQ(server->shown[1].replacesId, 0U);

@@ -74,10 +74,9 @@ bool waitUntil(const std::function<bool()> &reached) {
     return true;
 }
 
-void settle(const QDBusConnection &bus) {
-    auto ping =
-        QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/"),
-                                       QStringLiteral("org.freedesktop.DBus.Peer"), QStringLiteral("Ping"));
+void settle(const QDBusConnection &bus, const QString &service) {
+    auto ping = QDBusMessage::createMethodCall(
+        service, QStringLiteral("/"), QStringLiteral("org.freedesktop.DBus.Peer"), QStringLiteral("Ping"));
     const QDBusPendingCallWatcher answer(bus.asyncCall(ping));
     EXPECT_TRUE(waitUntil([&] { return answer.isFinished(); }));
     QCoreApplication::processEvents();

@@ -31,8 +31,9 @@ private:
 /// Lets events run until `reached` holds; false when that takes longer than any machine needs.
 bool waitUntil(const std::function<bool()> &reached);
 
-/// Lets all messages that are under way between `bus` and its peers arrive: the answer to one more call comes
-/// behind them.
-void settle(const QDBusConnection &bus);
+/// Lets all messages that are under way from and to the owner of the name `service` arrive at `bus`: the
+/// owner's answer to one more call comes behind them. (The daemon's own answer would not do: it may overtake
+/// what the owner has sent.)
+void settle(const QDBusConnection &bus, const QString &service);
 
 } // namespace orl
