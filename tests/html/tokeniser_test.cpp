@@ -275,7 +275,7 @@ TEST(TokeniserTest, GivesViewsWhereNothingChanges) {
 }
 
 TEST(TokeniserTest, RefusesASecondTokenBeforeTheFirstIsRead) {
-    const ArenaPtr arena(Arena::create());
+    const ArenaPtr arena(Arena::createLoose());
     CharacterReader reader({arena->retain(""), 0});
     Tokeniser tokeniser(reader, *arena, nullptr, ParseSettings::htmlDefault);
     Token::EndTag end;
@@ -320,7 +320,7 @@ TEST(TokeniserTest, RecordsErrors) {
 TEST(TokeniserTest, ReportsASelfClosingMarkThatNobodyAcknowledged) {
     auto errors = ParseErrorList::tracking(10);
     const std::string_view page = "<div/>a";
-    const ArenaPtr arena(Arena::create());
+    const ArenaPtr arena(Arena::createLoose());
     CharacterReader reader({arena->retain(page), page.size()});
     Tokeniser tokeniser(reader, *arena, &errors, ParseSettings::htmlDefault);
     tokeniser.read();

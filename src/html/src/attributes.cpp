@@ -23,7 +23,7 @@ std::string_view checkedKey(std::string_view key) {
 
 AttrRec *newAttribute(std::string_view key, const std::string_view *value) {
     key = checkedKey(key);
-    Arena *arena = Arena::create();
+    Arena *arena = Arena::createLoose();
     auto *record = static_cast<AttrRec *>(arena->allocate(sizeof(AttrRec)));
     *record = makeAttr(*arena, key, value);
     return record;
@@ -31,7 +31,7 @@ AttrRec *newAttribute(std::string_view key, const std::string_view *value) {
 
 /// A record that carries a list and is no node of any tree.
 NodeRec *newCarrier() {
-    return Arena::create()->newElement(Kind::Element, tagRec(TagId::Root));
+    return Arena::createLoose()->newElement(Kind::Element, tagRec(TagId::Root));
 }
 
 } // namespace

@@ -19,8 +19,8 @@ struct Column {
     const NodeRec *root = nullptr; ///< was searched, and
     std::uint64_t version = 0;     ///< had not changed since when the arena was at this version
     bool isFilled = false;         ///< which happens when the root is searched again
-    std::vector<Ref> elements;
-    std::vector<std::uint32_t> numbers;    ///< of each element
+    Found elements;
+    Found numbers;                         ///< of each element
     std::vector<const NodeRec *> examples; ///< of each number: an element that has it
 };
 

@@ -18,8 +18,9 @@ namespace {
 
 constexpr std::size_t maxPage = std::size_t(1) << 31;
 constexpr std::size_t maxStep = std::size_t(64) << 20;
-constexpr std::size_t looseSlots =
-    4; ///< chunks of one slot that an arena takes before it takes whole granules
+constexpr std::size_t looseSize = 4 * largeSlot; ///< what an arena takes in slots before whole granules
+
+constexpr std::size_t chunkOverhead = sizeof(Chunk) + Arena::readable;
 
 bool isLowerAscii(std::string_view text) {
     return std::ranges::all_of(text, [](char c) { return c >= 0 && (c < 'A' || c > 'Z'); });
@@ -34,28 +35,31 @@ std::string_view textKey(Kind kind) {
 // ---- Memory ----
 
 Arena *Arena::create(std::size_t inputBytes) {
+    return createLoose(inputBytes ? padding + inputBytes * 5 / 2 : largeSlot - chunkOverhead);
+}
+
+Arena *Arena::createLoose(std::size_t bytes) {
     openSpace();
-    const std::size_t head = sizeof(Chunk) + sizeof(Arena) + 2 * readable;
-    Chunk *chunk = takeChunk(inputBytes ? head + padding + inputBytes * 5 / 2 : slotSize);
+    Chunk *chunk = takeChunk(chunkOverhead + bytes);
     chunk->next = nullptr;
     chunk->baseUri = "";
     chunk->baseUriLength = 0;
-    return new (chunk + 1) Arena(chunk);
+    return new Arena(chunk);
 }
 
-Arena::Arena(Chunk *first) : chunks_(first), oldest_(first), size_(first->size) {
-    startChunk(first, sizeof(Chunk) + (sizeof(Arena) + 15) / 16 * 16);
+Arena::Arena(Chunk *first) : chunks_(first), oldest_(first), size_(first->size()) {
+    startChunk(first);
 }
 
-void Arena::startChunk(Chunk *chunk, std::size_t headSize) {
+void Arena::startChunk(Chunk *chunk) {
     chunk->arena = this;
-    cursor_ = reinterpret_cast<char *>(chunk) + headSize;
-    end_ = reinterpret_cast<char *>(chunk) + chunk->size - readable;
+    cursor_ = reinterpret_cast<char *>(chunk + 1);
+    end_ = reinterpret_cast<char *>(chunk) + chunk->size() - readable;
 }
 
 void Arena::destroy() {
     Chunk *chunk = chunks_;
-    this->~Arena();
+    delete this;
     while (chunk)
         giveBack(std::exchange(chunk, chunk->next));
 }
@@ -70,10 +74,10 @@ Arena::Tables &Arena::tables() {
 }
 
 void Arena::grow(std::size_t bytes) {
-    const std::size_t wanted = bytes + sizeof(Chunk) + readable;
-    if (chunkCount_ < looseSlots && size_ == chunkCount_ * slotSize && wanted <= slotSize)
-        return addChunk(slotSize);
-    addChunk(std::max(wanted, std::min(maxStep, size_ / 4) + slotSize + 1));
+    const std::size_t wanted = bytes + chunkOverhead;
+    if (size_ + largeSlot <= looseSize && wanted <= largeSlot)
+        return addChunk(chunkCount_ == 1 ? wanted : largeSlot);
+    addChunk(std::max(wanted, std::min(maxStep, size_ / 4) + largeSlot + 1));
 }
 
 bool Arena::isInOneRow() const {
@@ -88,8 +92,8 @@ void Arena::addChunk(std::size_t bytes) {
     chunk->baseUri = chunks_->baseUri;
     chunk->baseUriLength = chunks_->baseUriLength;
     chunks_ = chunk;
-    startChunk(chunk, sizeof(Chunk));
-    size_ += chunk->size;
+    startChunk(chunk);
+    size_ += chunk->size();
     ++chunkCount_;
 }
 
@@ -132,7 +136,7 @@ Arena &Arena::merge(Arena &left, Arena &right) {
         stays.tables().moreHolders.merge(goes.tables_->moreHolders);
         stays.tables().settings.merge(goes.tables_->settings);
     }
-    goes.~Arena();
+    delete &goes;
     return stays;
 }
 
@@ -358,7 +362,7 @@ void Arena::setBaseUri(std::string_view uri) {
     const std::string_view text = store(uri);
     for (Chunk *chunk = chunks_; chunk; chunk = chunk->next) {
         chunk->baseUri = text.data();
-        chunk->baseUriLength = text.size();
+        chunk->baseUriLength = std::uint32_t(text.size());
     }
 }
 

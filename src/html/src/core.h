@@ -382,9 +382,12 @@ inline std::string_view leafText(const NodeRec *leaf) {
 
 class Arena {
 public:
-    /// An arena for a page of so many bytes; 0 for a few loose nodes. Nobody holds it yet: whoever makes it
-    /// makes a handle to a node in it, or destroys it.
-    static Arena *create(std::size_t inputBytes = 0);
+    // Nobody holds a new arena yet: whoever makes it makes a handle to a node in it, or destroys it.
+    /// For a page of so many bytes.
+    static Arena *create(std::size_t inputBytes);
+    /// For a few loose nodes, which take so many bytes at first. They go on taking little when they have
+    /// become a part of a page.
+    static Arena *createLoose(std::size_t bytes = sizeof(NodeRec));
     void destroy();
 
     Arena(const Arena &) = delete;
@@ -450,9 +453,11 @@ public:
     /// The elements with a class, while the tree is as it was parsed.
     ClassIndex classes;
 
+    /// An address that stays in the arena, whatever it merges with; see holdArenaOf.
+    const void *anchor() const { return oldest_; }
     std::uint32_t chunkCount() const { return chunkCount_; }
     /// Whether it has but a few nodes, which a caller made on their own.
-    bool isLoose() const { return size_ == chunkCount_ * slotSize; }
+    bool isLoose() const { return size_ < granuleSize; }
     /// Whether each chunk has a higher address than those that were taken before it.
     bool isInOneRow() const;
     /// Where the next record will stand, if it fits into the chunk.
@@ -490,7 +495,7 @@ private:
 
     void grow(std::size_t bytes);
     void addChunk(std::size_t bytes);
-    void startChunk(Chunk *chunk, std::size_t headSize);
+    void startChunk(Chunk *chunk);
     NodeRec *newNode();
     const TagRec *dynamicTag(std::string_view name, std::uint16_t flags, const TagRec *like);
     void reclaim(NodeRec *root);
@@ -640,13 +645,13 @@ inline void releaseArenaOf(const void *record) {
 /// Keeps an arena while no node of it is held.
 class ArenaHold {
 public:
-    explicit ArenaHold(Arena *arena) : arena_(arena) { holdArenaOf(arena_); }
+    explicit ArenaHold(const Arena *arena) : anchor_(arena->anchor()) { holdArenaOf(anchor_); }
     ArenaHold(const ArenaHold &) = delete;
     ArenaHold &operator=(const ArenaHold &) = delete;
-    ~ArenaHold() { releaseArenaOf(arena_); }
+    ~ArenaHold() { releaseArenaOf(anchor_); }
 
 private:
-    const void *arena_; ///< where the arena was made; it may have merged into another
+    const void *anchor_;
 };
 
 } // namespace orl::html::core

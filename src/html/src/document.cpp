@@ -15,7 +15,7 @@ using namespace core;
 namespace {
 
 NodeRec *newDocument(std::string_view baseUri) {
-    Arena *arena = Arena::create();
+    Arena *arena = Arena::create(0);
     arena->setBaseUri(baseUri);
     return arena->newDocument(storeText(*arena, baseUri));
 }

@@ -20,7 +20,7 @@ using namespace core;
 namespace {
 
 NodeRec *newLoose(Kind kind, const Tag &tag, std::string_view baseUri) {
-    Arena *arena = Arena::create();
+    Arena *arena = Arena::createLoose();
     arena->setBaseUri(baseUri);
     return arena->newElement(kind, arena->adopt(tag.record()));
 }

@@ -41,7 +41,7 @@ std::vector<NodeRec *> parseInside(NodeRec *parent, std::string_view html) {
 }
 
 NodeRec *newLoose(Kind kind, std::string_view text, std::string_view baseUri) {
-    Arena *arena = Arena::create();
+    Arena *arena = Arena::createLoose(sizeof(NodeRec) + text.size() + baseUri.size());
     arena->setBaseUri(baseUri);
     return arena->newLeaf(kind, storeText(*arena, text));
 }
@@ -464,7 +464,7 @@ DocumentType::DocumentType(std::string_view name, std::string_view publicId, std
 
 DocumentType::DocumentType(std::string_view name, std::string_view pubSysKey, std::string_view publicId,
                            std::string_view systemId, std::string_view baseUri) {
-    Arena *arena = Arena::create();
+    Arena *arena = Arena::create(0);
     arena->setBaseUri(baseUri);
     *this = DocumentType(arena->newDoctype(storeText(*arena, name), storeText(*arena, pubSysKey),
                                            storeText(*arena, publicId), storeText(*arena, systemId)));
@@ -476,7 +476,7 @@ bool DocumentType::isKindOf(const core::NodeRec *record) {
 
 XmlDeclaration::XmlDeclaration(std::string_view name, std::string_view baseUri,
                                bool isProcessingInstruction) {
-    Arena *arena = Arena::create();
+    Arena *arena = Arena::create(0);
     arena->setBaseUri(baseUri);
     *this = XmlDeclaration(arena->newXmlDeclaration(storeText(*arena, name), isProcessingInstruction));
 }

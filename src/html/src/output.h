@@ -14,6 +14,9 @@
 
 namespace orl::html::core {
 
+/// A string of its own; a long one in large pages.
+std::string toString(std::string_view text);
+
 class Output {
 public:
     Output() : begin_(local_), cursor_(local_), end_(local_ + sizeof local_) {}
@@ -59,7 +62,7 @@ public:
     std::size_t size() const { return std::size_t(cursor_ - begin_); }
     char last() const { return cursor_[-1]; }
     std::string_view view() const { return {begin_, size()}; }
-    std::string text() const { return std::string(view()); }
+    std::string text() const { return toString(view()); }
 
 private:
     void grow(std::size_t bytes);

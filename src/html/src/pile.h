@@ -1,6 +1,8 @@
 // A list of plain records that is emptied and filled again all the time.
 #pragma once
 
+#include "orl/html/large_buffer.h"
+
 #include <cstddef>
 #include <cstdlib>
 #include <memory>
@@ -56,6 +58,7 @@ void Pile<T>::grow() {
     if (!larger) throw std::bad_alloc();
     static_cast<void>(records_.release());
     records_.reset(static_cast<T *>(larger));
+    if (capacity * sizeof(T) >= largeBuffer) askForLargePages(larger, capacity * sizeof(T));
     capacity_ = capacity;
 }
 

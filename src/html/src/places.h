@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core.h"
+#include "orl/html/large_buffer.h"
 
 #include <cstdint>
 #include <unordered_map>
@@ -30,7 +31,7 @@ public:
 private:
     struct Index {
         // One entry for each child node.
-        std::vector<std::uint32_t> places, typePlaces, types;
+        std::vector<std::uint32_t, LargeBuffers<std::uint32_t>> places, typePlaces, types;
         std::vector<std::uint32_t> typeCounts; ///< by type
         std::uint32_t count = 0;
     };

@@ -208,7 +208,7 @@ std::string innerHtml(const NodeRec *node) {
     const OutputSettings &settings = printSettings(node);
     Output out;
     printChildren(out, node, settings);
-    return std::string(settings.prettyPrint() ? trimmed(out.view()) : out.view());
+    return toString(settings.prettyPrint() ? trimmed(out.view()) : out.view());
 }
 
 void printAttr(Output &out, const AttrRec &attr, const OutputSettings &settings) {

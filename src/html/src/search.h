@@ -3,9 +3,9 @@
 
 #include "attrs.h"
 #include "core.h"
+#include "orl/html/node_list.h"
 
 #include <string_view>
-#include <vector>
 
 namespace orl::html {
 class Elements;
@@ -13,7 +13,7 @@ class Elements;
 
 namespace orl::html::core {
 
-using Found = std::vector<Ref>;
+using Found = SharedRefs::Refs;
 
 Elements asElements(Found found);
 

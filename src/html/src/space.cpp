@@ -1,6 +1,7 @@
 #include "space.h"
 
 #include "names.h"
+#include "orl/html/large_buffer.h"
 
 #include <algorithm>
 #include <map>
@@ -25,8 +26,7 @@ namespace {
 
 constexpr std::size_t largestSpace = std::size_t(64) << 30;
 constexpr std::size_t maxGranules = largestSpace / granuleSize;
-constexpr std::size_t hotStock = std::size_t(64) << 20;               ///< bytes kept ready for the next page
-constexpr std::size_t longRun = (std::size_t(8) << 20) / granuleSize; ///< takes large pages if there are any
+constexpr std::size_t hotStock = std::size_t(64) << 20; ///< bytes kept ready for the next page
 constexpr std::size_t commitStep = (std::size_t(16) << 20) / granuleSize;
 
 /// The head of a granule that is cut into slots; it stands in the first slot.
@@ -37,8 +37,9 @@ struct SlotGranule {
     } * free;
     std::uint32_t used;
     std::uint32_t untouched; ///< index of the first slot that was never handed out
+
+    bool isFull(std::size_t slotSize) const { return !free && untouched == granuleSize / slotSize; }
 };
-constexpr std::uint32_t slotsPerGranule = granuleSize / slotSize;
 
 class Space {
 public:
@@ -46,8 +47,8 @@ public:
 
     std::size_t takeRun(std::size_t count);
     void giveRun(std::size_t first, std::size_t count);
-    void *takeSlot();
-    void giveSlot(void *slot);
+    void *takeSlot(std::size_t size);
+    void giveSlot(void *slot, std::size_t size);
 
     std::mutex mutex;
     std::size_t inUse = 0;
@@ -62,9 +63,10 @@ private:
     void insert(std::size_t first, Run run);
     void erase(Runs::iterator run);
     void commit(std::size_t end);
-    static void askForLargePages(std::size_t first, std::size_t count);
-    void link(SlotGranule *granule);
-    void unlink(SlotGranule *granule);
+    void askForLarge(std::size_t first, std::size_t count);
+    static void link(SlotGranule *&list, SlotGranule *granule);
+    static void unlink(SlotGranule *&list, SlotGranule *granule);
+    SlotGranule *&listOf(std::size_t slotSize) { return slotGranules_[slotSize == largeSlot]; }
 
     std::size_t granules_ = 0;
     std::size_t top_ =
@@ -73,7 +75,7 @@ private:
     std::size_t hot_ = 0;
     Runs free_;
     std::set<std::pair<std::size_t, std::size_t>> bySize_[2]; ///< cold and hot ones: (count, first)
-    SlotGranule *slotGranules_ = nullptr;
+    SlotGranule *slotGranules_[2] = {nullptr, nullptr};       ///< of small and of large slots
 };
 
 char *granuleAddress(std::size_t index) {
@@ -104,10 +106,9 @@ void Space::commit(std::size_t end) {
     committed_ = wanted;
 }
 
-void Space::askForLargePages(std::size_t first, std::size_t count) {
-#ifdef MADV_HUGEPAGE
-    if (count >= longRun) madvise(granuleAddress(first), count * granuleSize, MADV_HUGEPAGE);
-#endif
+void Space::askForLarge(std::size_t first, std::size_t count) {
+    const std::size_t bytes = count * granuleSize;
+    if (bytes >= largeBuffer) askForLargePages(granuleAddress(first), bytes);
 }
 
 void Space::insert(std::size_t first, Run run) {
@@ -130,7 +131,7 @@ std::size_t Space::takeRun(std::size_t count) {
         commit(top_ + count);
         const std::size_t first = top_;
         top_ += count;
-        askForLargePages(first, count);
+        askForLarge(first, count);
         return first;
     }
     const auto found = free_.find(fit->second);
@@ -138,7 +139,7 @@ std::size_t Space::takeRun(std::size_t count) {
     const Run run = found->second;
     erase(found);
     if (run.count > count) insert(first + count, {run.count - count, run.hot});
-    if (!run.hot) askForLargePages(first, count);
+    if (!run.hot) askForLarge(first, count);
     return first;
 }
 
@@ -163,50 +164,52 @@ void Space::giveRun(std::size_t first, std::size_t count) {
     insert(first, run);
 }
 
-void Space::link(SlotGranule *granule) {
+void Space::link(SlotGranule *&list, SlotGranule *granule) {
     granule->previous = nullptr;
-    granule->next = slotGranules_;
-    if (slotGranules_) slotGranules_->previous = granule;
-    slotGranules_ = granule;
+    granule->next = list;
+    if (list) list->previous = granule;
+    list = granule;
 }
 
-void Space::unlink(SlotGranule *granule) {
-    (granule->previous ? granule->previous->next : slotGranules_) = granule->next;
+void Space::unlink(SlotGranule *&list, SlotGranule *granule) {
+    (granule->previous ? granule->previous->next : list) = granule->next;
     if (granule->next) granule->next->previous = granule->previous;
 }
 
-void *Space::takeSlot() {
-    SlotGranule *granule = slotGranules_;
+void *Space::takeSlot(std::size_t size) {
+    SlotGranule *&list = listOf(size);
+    SlotGranule *granule = list;
     if (!granule) {
         const std::size_t index = takeRun(1);
-        detail::granules[index] = reinterpret_cast<Chunk *>(detail::slots);
+        detail::granules[index] = reinterpret_cast<Chunk *>(size);
         granule = reinterpret_cast<SlotGranule *>(granuleAddress(index));
         ASAN_UNPOISON_MEMORY_REGION(granule, sizeof(SlotGranule));
         *granule = {nullptr, nullptr, nullptr, 0, 1};
-        link(granule);
+        link(list, granule);
     }
     char *slot = reinterpret_cast<char *>(granule->free);
     if (slot) {
-        ASAN_UNPOISON_MEMORY_REGION(slot, slotSize);
+        ASAN_UNPOISON_MEMORY_REGION(slot, size);
         granule->free = granule->free->next;
     } else {
-        slot = reinterpret_cast<char *>(granule) + granule->untouched++ * slotSize;
-        ASAN_UNPOISON_MEMORY_REGION(slot, slotSize);
+        slot = reinterpret_cast<char *>(granule) + granule->untouched++ * size;
+        ASAN_UNPOISON_MEMORY_REGION(slot, size);
     }
     ++granule->used;
-    if (!granule->free && granule->untouched == slotsPerGranule) unlink(granule);
+    if (granule->isFull(size)) unlink(list, granule);
     return slot;
 }
 
-void Space::giveSlot(void *slot) {
+void Space::giveSlot(void *slot, std::size_t size) {
+    SlotGranule *&list = listOf(size);
     const std::size_t index = std::size_t(static_cast<char *>(slot) - spaceBase) / granuleSize;
     auto *granule = reinterpret_cast<SlotGranule *>(granuleAddress(index));
-    const bool wasFull = !granule->free && granule->untouched == slotsPerGranule;
+    const bool wasFull = granule->isFull(size);
     granule->free = new (slot) SlotGranule::Free{granule->free};
-    ASAN_POISON_MEMORY_REGION(slot, slotSize);
-    if (wasFull) link(granule);
+    ASAN_POISON_MEMORY_REGION(slot, size);
+    if (wasFull) link(list, granule);
     if (--granule->used > 0) return;
-    unlink(granule);
+    unlink(list, granule);
     detail::granules[index] = nullptr;
     giveRun(index, 1);
 }
@@ -226,6 +229,15 @@ namespace detail {
 Chunk *granules[maxGranules];
 } // namespace detail
 
+void askForLargePages([[maybe_unused]] void *memory, [[maybe_unused]] std::size_t bytes) noexcept {
+#ifdef MADV_HUGEPAGE
+    constexpr std::uintptr_t largePage = std::uintptr_t(2) << 20;
+    const std::uintptr_t first = (std::uintptr_t(memory) + largePage - 1) & ~(largePage - 1);
+    const std::uintptr_t end = (std::uintptr_t(memory) + bytes) & ~(largePage - 1);
+    if (first < end) madvise(reinterpret_cast<void *>(first), end - first, MADV_HUGEPAGE);
+#endif
+}
+
 void openSpace() {
     space();
 }
@@ -233,28 +245,29 @@ void openSpace() {
 Chunk *takeChunk(std::size_t bytes) {
     Space &all = space();
     const std::lock_guard lock(all.mutex);
-    if (bytes <= slotSize) {
-        auto *chunk = static_cast<Chunk *>(all.takeSlot());
-        chunk->size = slotSize;
-        all.inUse += slotSize;
-        return chunk;
+    Chunk *chunk;
+    std::size_t size = bytes <= smallSlot ? smallSlot : largeSlot;
+    if (bytes <= largeSlot) {
+        chunk = static_cast<Chunk *>(all.takeSlot(size));
+    } else {
+        const std::size_t count = (bytes + granuleSize - 1) / granuleSize;
+        const std::size_t first = all.takeRun(count);
+        chunk = reinterpret_cast<Chunk *>(granuleAddress(first));
+        size = count * granuleSize;
+        ASAN_UNPOISON_MEMORY_REGION(chunk, size);
+        std::fill_n(detail::granules + first, count, chunk);
     }
-    const std::size_t count = (bytes + granuleSize - 1) / granuleSize;
-    const std::size_t first = all.takeRun(count);
-    auto *chunk = reinterpret_cast<Chunk *>(granuleAddress(first));
-    ASAN_UNPOISON_MEMORY_REGION(chunk, count * granuleSize);
-    std::fill_n(detail::granules + first, count, chunk);
-    chunk->size = count * granuleSize;
-    all.inUse += chunk->size;
+    chunk->steps = std::uint32_t(size >> 4);
+    all.inUse += size;
     return chunk;
 }
 
 void giveBack(Chunk *chunk) {
     Space &all = space();
-    const std::size_t size = chunk->size;
+    const std::size_t size = chunk->size();
     const std::lock_guard lock(all.mutex);
     all.inUse -= size;
-    if (size == slotSize) return all.giveSlot(chunk);
+    if (size <= largeSlot) return all.giveSlot(chunk, size);
     const std::size_t first = std::size_t(reinterpret_cast<char *>(chunk) - spaceBase) / granuleSize;
     const std::size_t count = size / granuleSize;
     ASAN_POISON_MEMORY_REGION(chunk, size);

@@ -2,10 +2,10 @@
 // it.
 //
 // The space is cut into granules of 64 KiB. A chunk of an arena is a run of granules, or, for the few nodes
-// that a caller makes on their own, a slot of 512 bytes in a granule that is cut into such slots. Runs that
-// come back are handed out again while they are still in the machine's memory, up to a bound; what is above
-// it is returned to the system. Long runs ask the system for its large pages: the first touch of a small one
-// costs more than filling it with nodes does.
+// that a caller makes on their own, a slot in a granule that is cut into slots of 128 or of 512 bytes. Runs
+// that come back are handed out again while they are still in the machine's memory, up to a bound; what is
+// above it is returned to the system. Long runs ask the system for its large pages: the first touch of a
+// small one costs more than filling it with nodes does.
 #pragma once
 
 #include <cstddef>
@@ -24,7 +24,7 @@ namespace orl::html::core {
 using Ref = std::uint32_t; ///< 16-byte steps from the base of the node space; 0 is "none".
 
 constexpr std::size_t granuleSize = std::size_t(64) << 10;
-constexpr std::size_t slotSize = 512;
+constexpr std::size_t smallSlot = 128, largeSlot = 512;
 
 extern char *spaceBase; ///< Set once, before the first arena exists.
 extern std::size_t spaceSize;
@@ -48,23 +48,27 @@ class Arena;
 struct alignas(16) Chunk {
     Arena *arena;
     Chunk *next;
-    std::size_t size;    ///< bytes, this head included: whole granules or one slot
     const char *baseUri; ///< of the nodes in it
-    std::size_t baseUriLength;
+    std::uint32_t baseUriLength;
+    std::uint32_t steps; ///< its size in steps of 16 bytes: whole granules or one slot
+
+    /// Bytes, this head included.
+    std::size_t size() const { return std::size_t(steps) << 4; }
 };
+static_assert(sizeof(Chunk) == 32, "a small slot is to have room for a node and some text");
 
 namespace detail {
-/// What stands in each granule: null, the chunk that it belongs to, or `slots`.
+/// What stands in each granule: null, the chunk that it belongs to, or the size of the slots in it.
 extern Chunk *granules[];
-constexpr std::uintptr_t slots = 1;
 } // namespace detail
 
 /// The chunk that holds this address of the space.
 inline Chunk *chunkOf(const void *record) {
     Chunk *chunk = detail::granules[(static_cast<const char *>(record) - spaceBase) / granuleSize];
-    if (std::uintptr_t(chunk) != detail::slots) [[likely]]
+    const auto slot = std::uintptr_t(chunk);
+    if (slot > largeSlot) [[likely]]
         return chunk;
-    return reinterpret_cast<Chunk *>(std::uintptr_t(record) & ~std::uintptr_t(slotSize - 1));
+    return reinterpret_cast<Chunk *>(std::uintptr_t(record) & ~(slot - 1));
 }
 
 /// Opens the space; later calls cost one load.

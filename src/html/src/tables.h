@@ -20,9 +20,11 @@ using FormList = std::vector<NodeRec *>;
 struct ChildIndex {
     const NodeRec *parent = nullptr;
     std::uint64_t version = 0;
-    std::vector<Ref> nodes;
-    std::vector<Ref> elements;
-    std::vector<std::uint32_t> elementPlaces; ///< of each node: how many elements stand before it
+    using Refs = SharedRefs::Refs;
+
+    Refs nodes;
+    Refs elements;
+    Refs elementPlaces; ///< of each node: how many elements stand before it
 };
 
 struct Arena::Tables {

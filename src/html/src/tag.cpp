@@ -42,7 +42,7 @@ Tag Tag::valueOf(std::string_view tagName, const ParseSettings &settings) {
     checkNotEmpty(name);
     openSpace();
     if (const TagRec *known = knownTag(name)) return Tag(known);
-    return Tag(Arena::create()->tag(name));
+    return Tag(Arena::createLoose()->tag(name));
 }
 
 Tag Tag::valueOf(std::string_view tagName) {
@@ -100,7 +100,7 @@ bool Tag::isFormSubmittable() const {
 
 Tag &Tag::setSelfClosing() {
     if (isSelfClosing() || record_->has(TagRec::Registered)) return *this;
-    return *this = Tag(Arena::create()->selfClosing(record_));
+    return *this = Tag(Arena::createLoose()->selfClosing(record_));
 }
 
 bool Tag::equals(const Tag &other) const {

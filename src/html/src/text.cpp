@@ -186,7 +186,7 @@ std::string textOf(const NodeRec *root) {
         else if (isElement(node) && breaksText(tagOf(node)) && !out.empty() && !afterBlank())
             out.push_back(' ');
     }
-    return std::string(trimmed(out.view()));
+    return toString(trimmed(out.view()));
 }
 
 std::string ownTextOf(const NodeRec *element) {
@@ -199,7 +199,7 @@ std::string ownTextOf(const NodeRec *element) {
         else if (isElement(node) && tagOf(node)->id == TagId::Br && !afterBlank())
             out.push_back(' ');
     }
-    return std::string(trimmed(out.view()));
+    return toString(trimmed(out.view()));
 }
 
 bool hasTextIn(const NodeRec *root) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <orl/html/export.h>
+#include <orl/html/large_buffer.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -17,7 +18,7 @@ struct NodeRec;
 /// answers that a page keeps. Counted without locks, as nodes are: all of them belong to one tree.
 class SharedRefs {
 public:
-    using Refs = std::vector<std::uint32_t>;
+    using Refs = std::vector<std::uint32_t, LargeBuffers<std::uint32_t>>;
 
     SharedRefs() = default;
     explicit SharedRefs(Refs refs) : block_(refs.empty() ? nullptr : new Block{1, std::move(refs)}) {}
