@@ -2,6 +2,7 @@
 // parse has broken: both find what a naive walk finds, from whatever root.
 #include "class_index.h"
 #include "naive_matching.h"
+#include "text_numbers.h"
 
 #include <orl/html/parser.h>
 #include <orl/html/query_parser.h>
@@ -9,6 +10,8 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <random>
+#include <string>
+#include <vector>
 
 namespace orl::html {
 namespace {
@@ -165,6 +168,24 @@ TEST(ClassIndexTest, StaysLinearForManyRootsAndLevels) {
         EXPECT_EQ(deep.select("div .b").size(), 49'999U);
         EXPECT_EQ(deep.select(".a .a .a").size(), 49'998U);
     }
+}
+
+/// Texts of every length that differ at one place only, met again and again.
+TEST(TextNumbersTest, EqualTextsHaveEqualNumbers) {
+    std::vector<std::string> texts;
+    for (std::size_t size = 0; size < 45; ++size) {
+        texts.emplace_back(size, 'x');
+        for (std::size_t place = 0; place < size; ++place)
+            texts.emplace_back(size, 'x')[place] = 'y';
+    }
+    core::TextNumbers numbers;
+    for (int round = 0; round < 3; ++round)
+        for (std::size_t i = 0; i < texts.size(); ++i) {
+            const std::string copy = texts[i];
+            EXPECT_EQ(numbers.numberOf(texts[i]), i);
+            EXPECT_EQ(numbers.numberOf(texts[i / 2]), i / 2);
+            ASSERT_EQ(numbers.numberOf(copy), i) << copy;
+        }
 }
 
 TEST(ClassIndexTest, RandomPages) {

@@ -1,9 +1,14 @@
 // The memory under the tree: names, links, holders, and what is given back when.
 #include "core.h"
+#include "orl/html/document.h"
+#include "orl/html/large_buffer.h"
+#include "pile.h"
 
 #include <cstring>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <utility>
+#include <vector>
 
 namespace orl::html::core {
 namespace {
@@ -175,6 +180,83 @@ TEST(SpaceTest, ChunksComeBack) {
             arenas[i]->destroy();
         EXPECT_EQ(spaceInUse(), before);
     }
+}
+
+/// What callers make on their own is small on its own and stays small inside a page.
+TEST(SpaceTest, LooseNodesTakeLittle) {
+    const std::size_t before = spaceInUse();
+    {
+        const Document page("");
+        const std::size_t empty = spaceInUse();
+        constexpr std::size_t count = 1000;
+        for (std::size_t i = 0; i < count; ++i)
+            page.appendChild(TextNode("some text", ""));
+        EXPECT_LE(spaceInUse(), empty + count * smallSlot);
+        const Document other("");
+        other.appendChild(Element(Tag::valueOf("p"), "").attr("id", "x"));
+        other.appendChild(TextNode(std::string(300, 'x'), "http://host/"));
+        page.appendChild(other.child(0));
+        EXPECT_EQ(page.getElementById("x").outerHtml(), "<p id=\"x\"></p>");
+        EXPECT_EQ(other.textNodes().at(0).getWholeText().size(), 300U);
+        EXPECT_EQ(other.childNode(0).getBaseUri(), "http://host/");
+    }
+    EXPECT_EQ(spaceInUse(), before);
+}
+
+TEST(SpaceTest, LongListsStandWherePagesAre) {
+    constexpr std::size_t count = 3 * largeBuffer / sizeof(std::uint64_t);
+    const std::size_t before = spaceInUse();
+    {
+        Pile<std::uint64_t> pile;
+        std::vector<std::uint64_t, LargeBuffers<std::uint64_t>> list;
+        for (std::size_t i = 0; i < count; ++i) {
+            pile.push_back(i);
+            list.push_back(i);
+        }
+        EXPECT_GE(spaceInUse(), before + 2 * count * sizeof(std::uint64_t));
+        std::size_t right = 0;
+        for (std::size_t i = 0; i < count; ++i)
+            right += pile[i] == i && list[i] == i;
+        EXPECT_EQ(right, count);
+    }
+    EXPECT_EQ(spaceInUse(), before);
+}
+
+/// More than is kept comes and goes, beside memory that is in use.
+TEST(SpaceTest, StretchesOfAllWarmthsDoNotMixUp) {
+    const std::size_t before = spaceInUse();
+    std::vector<std::pair<unsigned char *, std::size_t>> held;
+    std::uint32_t state = 1;
+    const auto random = [&state](std::uint32_t below) {
+        state = state * 1664525 + 1013904223;
+        return (state >> 8) % below;
+    };
+    // The first and the last byte of each 64 KiB tell whose it is.
+    const auto mark = [](std::pair<unsigned char *, std::size_t> piece, unsigned char value, bool check) {
+        for (std::size_t at = 0; at < piece.second; at += granuleSize / 2) {
+            if (check) {
+                EXPECT_EQ(piece.first[at], value);
+            }
+            piece.first[at] = value;
+        }
+    };
+    for (int round = 0; round < 300; ++round) {
+        if (held.size() < 12 || random(2)) {
+            const std::size_t size = (std::size_t(1) + random(200)) * granuleSize;
+            held.emplace_back(static_cast<unsigned char *>(takeLargeBuffer(size)), size);
+            mark(held.back(), static_cast<unsigned char>(std::uintptr_t(held.back().first) >> 16), false);
+        } else {
+            const auto gone = held.begin() + random(std::uint32_t(held.size()));
+            mark(*gone, static_cast<unsigned char>(std::uintptr_t(gone->first) >> 16), true);
+            giveLargeBuffer(gone->first);
+            held.erase(gone);
+        }
+    }
+    for (const auto &piece : held) {
+        mark(piece, static_cast<unsigned char>(std::uintptr_t(piece.first) >> 16), true);
+        giveLargeBuffer(piece.first);
+    }
+    EXPECT_EQ(spaceInUse(), before);
 }
 
 /// Memory that was just used is handed out again, also beside a stretch that was too large to be kept.

@@ -87,18 +87,18 @@ TEST(StringUtilTest, WhiteSpaceCollapses) {
 
 /// What the vectors do at the borders of a block of 16 bytes, against a walk byte by byte.
 TEST(StringUtilTest, WhiteSpaceCollapsesTheSameAtEveryPlace) {
-    const std::string_view alphabet = "a \n<&\v\xc2\xa0";
+    const std::string_view alphabet = "a \n\t\f\r\b\x0e<&\v\xc2\xa0";
     unsigned state = 1;
     for (int round = 0; round < 3000; ++round) {
         std::string text, expected, escaped;
         for (std::size_t i = 0, size = state % 60; i < size; ++i) {
             state = state * 1664525 + 1013904223;
             const std::size_t pick = (state >> 16) % 24;
-            text += pick < 6 ? alphabet.substr(pick, 1) : pick == 6 ? alphabet.substr(6) : "a";
+            text += pick < 11 ? alphabet.substr(pick, 1) : pick == 11 ? alphabet.substr(11) : "a";
         }
         bool blank = false;
         for (const char c : text) {
-            const bool white = c == ' ' || c == '\n';
+            const bool white = c == ' ' || c == '\n' || c == '\t' || c == '\f' || c == '\r';
             if (!white) expected += c;
             if (white && !blank) expected += ' ';
             blank = white;

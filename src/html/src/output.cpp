@@ -1,7 +1,5 @@
 #include "output.h"
 
-#include "orl/html/large_buffer.h"
-
 #include <algorithm>
 
 namespace orl::html::core {
@@ -9,7 +7,9 @@ namespace orl::html::core {
 std::string toString(std::string_view text) {
     std::string string;
     string.reserve(text.size());
-    if (text.size() >= largeBuffer) askForLargePages(string.data(), text.size());
+    // Nobody has touched such memory: the C library takes it from the system each time.
+    constexpr std::size_t fresh = std::size_t(32) << 20;
+    if (text.size() >= fresh) askForLargePages(string.data(), text.size());
     string = text;
     return string;
 }

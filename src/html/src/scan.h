@@ -50,6 +50,15 @@ inline Vector either(Vector a, Vector b) {
 inline Vector both(Vector a, Vector b) {
     return _mm_and_si128(a, b);
 }
+inline Vector larger(Vector a, Vector b) {
+    return _mm_max_epu8(a, b);
+}
+inline Vector all(char c) {
+    return _mm_set1_epi8(c);
+}
+inline void store(char *p, Vector v) {
+    _mm_storeu_si128(reinterpret_cast<__m128i *>(p), v);
+}
 inline std::uint64_t mask(Vector v) {
     return std::uint64_t(_mm_movemask_epi8(v));
 }
@@ -80,6 +89,15 @@ inline Vector either(Vector a, Vector b) {
 }
 inline Vector both(Vector a, Vector b) {
     return vandq_u8(a, b);
+}
+inline Vector larger(Vector a, Vector b) {
+    return vmaxq_u8(a, b);
+}
+inline Vector all(char c) {
+    return vdupq_n_u8(std::uint8_t(c));
+}
+inline void store(char *p, Vector v) {
+    vst1q_u8(reinterpret_cast<std::uint8_t *>(p), v);
 }
 inline std::uint64_t mask(Vector v) {
     return vget_lane_u64(vreinterpret_u64_u8(vshrn_n_u16(vreinterpretq_u16_u8(v), 4)), 0);

@@ -9,6 +9,7 @@
 #include <new>
 #include <set>
 #include <sys/mman.h>
+#include <unistd.h>
 
 #ifdef ORL_HTML_ASAN
 #include <sanitizer/asan_interface.h>
@@ -27,6 +28,8 @@ namespace {
 constexpr std::size_t largestSpace = std::size_t(64) << 30;
 constexpr std::size_t maxGranules = largestSpace / granuleSize;
 constexpr std::size_t hotStock = std::size_t(64) << 20; ///< bytes kept ready for the next page
+/// Bytes that the system may take when it needs memory: at most a sixteenth of what the machine has.
+constexpr std::size_t largestLazyStock = std::size_t(2) << 30;
 constexpr std::size_t commitStep = (std::size_t(16) << 20) / granuleSize;
 
 /// The head of a granule that is cut into slots; it stands in the first slot.
@@ -54,15 +57,21 @@ public:
     std::size_t inUse = 0;
 
 private:
+    enum Warmth { Cold, Lazy, Hot }; ///< no memory behind it; what the system has not taken; all of it
     struct Run {
         std::size_t count;
-        bool hot; ///< may still have memory behind it
+        Warmth warmth;
+    };
+    struct Stock {
+        std::set<std::pair<std::size_t, std::size_t>> bySize; ///< (count, first)
+        std::size_t bytes = 0;
     };
     using Runs = std::map<std::size_t, Run>;
 
     void insert(std::size_t first, Run run);
     void erase(Runs::iterator run);
     void commit(std::size_t end);
+    Warmth coolDown(std::size_t first, std::size_t count);
     void askForLarge(std::size_t first, std::size_t count);
     static void link(SlotGranule *&list, SlotGranule *granule);
     static void unlink(SlotGranule *&list, SlotGranule *granule);
@@ -72,10 +81,10 @@ private:
     std::size_t top_ =
         1; ///< granules below were handed out at least once; the first one has the static names
     std::size_t committed_ = 0;
-    std::size_t hot_ = 0;
+    std::size_t lazyStock_ = 0;
     Runs free_;
-    std::set<std::pair<std::size_t, std::size_t>> bySize_[2]; ///< cold and hot ones: (count, first)
-    SlotGranule *slotGranules_[2] = {nullptr, nullptr};       ///< of small and of large slots
+    Stock stocks_[3];                                   ///< by warmth
+    SlotGranule *slotGranules_[2] = {nullptr, nullptr}; ///< of small and of large slots
 };
 
 char *granuleAddress(std::size_t index) {
@@ -91,6 +100,9 @@ Space::Space() {
         spaceBase = reinterpret_cast<char *>(aligned);
         granules_ = size / granuleSize;
         spaceSize = size;
+        const long pages = sysconf(_SC_PHYS_PAGES), pageSize = sysconf(_SC_PAGESIZE);
+        if (pages > 0 && pageSize > 0)
+            lazyStock_ = std::min(largestLazyStock, std::size_t(pages) * std::size_t(pageSize) / 16);
         commit(1);
         return;
     }
@@ -113,49 +125,61 @@ void Space::askForLarge(std::size_t first, std::size_t count) {
 
 void Space::insert(std::size_t first, Run run) {
     free_.emplace(first, run);
-    bySize_[run.hot].emplace(run.count, first);
-    if (run.hot) hot_ += run.count * granuleSize;
+    Stock &stock = stocks_[run.warmth];
+    stock.bySize.emplace(run.count, first);
+    stock.bytes += run.count * granuleSize;
 }
 
 void Space::erase(Runs::iterator run) {
-    bySize_[run->second.hot].erase({run->second.count, run->first});
-    if (run->second.hot) hot_ -= run->second.count * granuleSize;
+    Stock &stock = stocks_[run->second.warmth];
+    stock.bySize.erase({run->second.count, run->first});
+    stock.bytes -= run->second.count * granuleSize;
     free_.erase(run);
 }
 
 std::size_t Space::takeRun(std::size_t count) {
-    const bool hot = bySize_[true].lower_bound({count, 0}) != bySize_[true].end();
-    const auto fit = bySize_[hot].lower_bound({count, 0});
-    if (fit == bySize_[hot].end()) {
-        if (count > granules_ - top_) throw std::bad_alloc();
-        commit(top_ + count);
-        const std::size_t first = top_;
-        top_ += count;
-        askForLarge(first, count);
+    for (const Warmth warmth : {Hot, Lazy, Cold}) {
+        const auto fit = stocks_[warmth].bySize.lower_bound({count, 0});
+        if (fit == stocks_[warmth].bySize.end()) continue;
+        const auto found = free_.find(fit->second);
+        const std::size_t first = found->first, size = found->second.count;
+        erase(found);
+        if (size > count) insert(first + count, {size - count, warmth});
+        if (warmth == Cold) askForLarge(first, count);
         return first;
     }
-    const auto found = free_.find(fit->second);
-    const std::size_t first = found->first;
-    const Run run = found->second;
-    erase(found);
-    if (run.count > count) insert(first + count, {run.count - count, run.hot});
-    if (!run.hot) askForLarge(first, count);
+    if (count > granules_ - top_) throw std::bad_alloc();
+    commit(top_ + count);
+    const std::size_t first = top_;
+    top_ += count;
+    askForLarge(first, count);
     return first;
 }
 
-/// Hot runs and cold ones do not merge: what the next page is to find ready must not go with a neighbour that
-/// is too large for the stock.
+/// Gives the system what is above the stocks.
+Space::Warmth Space::coolDown(std::size_t first, std::size_t count) {
+    const std::size_t bytes = count * granuleSize;
+    if (stocks_[Hot].bytes + bytes <= hotStock) return Hot;
+#ifdef MADV_FREE
+    if (stocks_[Lazy].bytes + bytes <= lazyStock_ && madvise(granuleAddress(first), bytes, MADV_FREE) == 0)
+        return Lazy;
+#endif
+    madvise(granuleAddress(first), bytes, MADV_DONTNEED);
+    return Cold;
+}
+
+/// Runs of different warmth do not merge: what the next page is to find ready must not go with a neighbour
+/// that is too large for the stock.
 void Space::giveRun(std::size_t first, std::size_t count) {
-    Run run{count, hot_ + count * granuleSize <= hotStock};
-    if (!run.hot) madvise(granuleAddress(first), count * granuleSize, MADV_DONTNEED);
+    Run run{count, coolDown(first, count)};
     auto after = free_.lower_bound(first);
-    if (after != free_.end() && after->first == first + count && after->second.hot == run.hot) {
+    if (after != free_.end() && after->first == first + count && after->second.warmth == run.warmth) {
         run.count += after->second.count;
         erase(after++);
     }
     if (after != free_.begin()) {
         const auto before = std::prev(after);
-        if (before->first + before->second.count == first && before->second.hot == run.hot) {
+        if (before->first + before->second.count == first && before->second.warmth == run.warmth) {
             first = before->first;
             run.count += before->second.count;
             erase(before);
@@ -229,7 +253,7 @@ namespace detail {
 Chunk *granules[maxGranules];
 } // namespace detail
 
-void askForLargePages([[maybe_unused]] void *memory, [[maybe_unused]] std::size_t bytes) noexcept {
+void askForLargePages([[maybe_unused]] void *memory, [[maybe_unused]] std::size_t bytes) {
 #ifdef MADV_HUGEPAGE
     constexpr std::uintptr_t largePage = std::uintptr_t(2) << 20;
     const std::uintptr_t first = (std::uintptr_t(memory) + largePage - 1) & ~(largePage - 1);
@@ -273,6 +297,17 @@ void giveBack(Chunk *chunk) {
     ASAN_POISON_MEMORY_REGION(chunk, size);
     std::fill_n(detail::granules + first, count, nullptr);
     all.giveRun(first, count);
+}
+
+void *takeLargeBuffer(std::size_t bytes) {
+    openSpace();
+    Chunk *const chunk = takeChunk(sizeof(Chunk) + bytes);
+    chunk->arena = nullptr;
+    return chunk + 1;
+}
+
+void giveLargeBuffer(void *memory) noexcept {
+    giveBack(static_cast<Chunk *>(memory) - 1);
 }
 
 std::size_t spaceInUse() {

@@ -3,9 +3,10 @@
 //
 // The space is cut into granules of 64 KiB. A chunk of an arena is a run of granules, or, for the few nodes
 // that a caller makes on their own, a slot in a granule that is cut into slots of 128 or of 512 bytes. Runs
-// that come back are handed out again while they are still in the machine's memory, up to a bound; what is
-// above it is returned to the system. Long runs ask the system for its large pages: the first touch of a
-// small one costs more than filling it with nodes does.
+// that come back are handed out again while they are still in the machine's memory: some of it is kept, more
+// is the system's to take as soon as it needs memory, and what is above that it gets at once. Long runs ask
+// the system for its large pages: the first touch of a small one costs more than filling it with nodes does,
+// and that of any on a virtual machine whose host has to find it first costs many times as much.
 #pragma once
 
 #include <cstddef>
@@ -79,6 +80,9 @@ void openSpace();
 Chunk *takeChunk(std::size_t bytes);
 
 void giveBack(Chunk *chunk);
+
+/// Asks the system for its large pages where nothing was written yet. A hint that changes nothing else.
+void askForLargePages(void *memory, std::size_t bytes);
 
 /// Bytes of the space that chunks have now.
 std::size_t spaceInUse();

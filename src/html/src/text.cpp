@@ -73,10 +73,10 @@ using Mask = std::uint64_t;
 constexpr unsigned vectorSize = 16;
 constexpr Mask oneByte = (Mask(1) << scan::bitsPerByte) - 1;
 
-/// The bytes that stop plain copying: a character that is written as a reference, white space other than a
-/// blank, and white space after white space.
+/// The bytes that stop plain copying: a character that is written as a reference, and white space after white
+/// space. Other white space becomes blanks.
 template<Copy How>
-Mask stops(scan::Vector v, Mask afterBlank, Mask &white) {
+Mask stops(scan::Vector &v, Mask afterBlank, Mask &white) {
     using namespace scan;
     Mask found = 0;
     if constexpr (How == Copy::EscapeValue)
@@ -84,29 +84,37 @@ Mask stops(scan::Vector v, Mask afterBlank, Mask &white) {
     else if constexpr (How != Copy::Normalise)
         found = mask(either(either(equal(v, '&'), equal(v, '\xc2')), either(equal(v, '<'), equal(v, '>'))));
     if constexpr (!collapses(How)) return found;
-    const Mask blank = mask(equal(v, ' '));
-    Mask control = mask(atMost(v, '\r')) & ~mask(atMost(v, '\b'));
-    if constexpr (How == Copy::Normalise) control &= ~mask(equal(v, '\v'));
-    white = blank | control;
-    return found | control | (white & (white << bitsPerByte | afterBlank));
+    const Vector control = How == Copy::Normalise
+                               ? either(atMost(minus(v, '\t'), 1), atMost(minus(v, '\f'), 1))
+                               : atMost(minus(v, '\t'), '\r' - '\t');
+    v = larger(v, both(control, all(' ')));
+    white = mask(equal(v, ' '));
+    return found | (white & (white << bitsPerByte | afterBlank));
 }
 
-/// Reads up to 15 bytes past the end.
+/// Reads up to 15 bytes past the end. A vector that is copied as a whole is told by a branch, so that the
+/// processor need not know how far one was copied before it looks at the next.
 template<Copy How>
 char *copyWide(char *to, const char *p, const char *end, bool afterBlank) {
     while (p < end) {
-        const scan::Vector v = scan::load(p);
-        std::memcpy(to, p, vectorSize);
+        scan::Vector v = scan::load(p);
         Mask white = 0;
         Mask found = stops<How>(v, afterBlank ? oneByte : 0, white);
+        scan::store(to, v);
         const auto left = std::size_t(end - p);
-        const unsigned size = left < vectorSize ? unsigned(left) : vectorSize;
-        if (size < vectorSize) found &= (Mask(1) << (size * scan::bitsPerByte)) - 1;
-        const unsigned plain = found ? unsigned(std::countr_zero(found)) / scan::bitsPerByte : size;
-        p += plain;
-        to += plain;
-        if (plain > 0) afterBlank = white >> ((plain - 1) * scan::bitsPerByte) & 1;
-        if (found) copyOne<How>(to, p, end, afterBlank);
+        if (found || left < vectorSize) {
+            const unsigned size = left < vectorSize ? unsigned(left) : vectorSize;
+            if (size < vectorSize) found &= (Mask(1) << (size * scan::bitsPerByte)) - 1;
+            const unsigned plain = found ? unsigned(std::countr_zero(found)) / scan::bitsPerByte : size;
+            p += plain;
+            to += plain;
+            if (plain > 0) afterBlank = white >> ((plain - 1) * scan::bitsPerByte) & 1;
+            if (found) copyOne<How>(to, p, end, afterBlank);
+            continue;
+        }
+        p += vectorSize;
+        to += vectorSize;
+        afterBlank = white >> ((vectorSize - 1) * scan::bitsPerByte) & 1;
     }
     return to;
 }

@@ -1,6 +1,7 @@
 // Small numbers for the different texts of a page.
 #pragma once
 
+#include <array>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -11,17 +12,47 @@
 namespace orl::html::core {
 
 /// Gives equal texts equal numbers: an open table, half empty at least. Nearly all texts of a page are told
-/// apart by their lengths and their ends.
+/// apart by their lengths and their ends. Pages repeat the same few, so those met last are looked at first.
 class TextNumbers {
 public:
     TextNumbers() : places_(64) {}
 
     std::uint32_t numberOf(std::string_view text) {
+        if (text.size() < end) return numberInTable(text);
+        Recent &recent =
+            recent_[(text.size() * 7 + static_cast<unsigned char>(text.back())) % recent_.size()];
+        if (recent.size == text.size() && same(recent.text, text.data(), text.size())) return recent.number;
+        const std::uint32_t number = numberInTable(text);
+        recent = {text.data(), text.size(), number};
+        return number;
+    }
+
+private:
+    static constexpr std::size_t end = sizeof(std::uint64_t);
+
+    struct Recent {
+        const char *text = nullptr;
+        std::size_t size = 0;
+        std::uint32_t number = 0;
+    };
+
+    static std::uint64_t wordAt(const char *text) {
+        std::uint64_t word;
+        std::memcpy(&word, text, sizeof word);
+        return word;
+    }
+    static bool same(const char *left, const char *right, std::size_t size) {
+        return wordAt(left) == wordAt(right) && wordAt(left + size - end) == wordAt(right + size - end) &&
+               sameInside(left, right, size);
+    }
+
+    std::uint32_t numberInTable(std::string_view text) {
         const Ends ends(text);
         std::size_t i = ends.hash() & (places_.size() - 1);
         for (; places_[i].number; i = (i + 1) & (places_.size() - 1)) {
             const Place &place = places_[i];
-            if (place.ends == ends && place.text.size() == text.size() && sameInside(place.text, text))
+            if (place.ends == ends && place.text.size() == text.size() &&
+                sameInside(place.text.data(), text.data(), text.size()))
                 return place.number - 1;
         }
         places_[i] = {ends, text, ++count_};
@@ -29,16 +60,15 @@ public:
         return count_ - 1;
     }
 
-private:
     /// The first and the last eight bytes, or what there is.
     struct Ends {
         std::uint64_t first = 0, last = 0;
 
         Ends() = default;
         explicit Ends(std::string_view text) {
-            if (text.size() >= sizeof first) [[likely]] {
-                std::memcpy(&first, text.data(), sizeof first);
-                std::memcpy(&last, text.data() + text.size() - sizeof last, sizeof last);
+            if (text.size() >= end) [[likely]] {
+                first = wordAt(text.data());
+                last = wordAt(text.data() + text.size() - end);
             } else if (!text.empty()) {
                 std::memcpy(&first, text.data(), text.size());
                 last = text.size();
@@ -58,13 +88,11 @@ private:
 
     /// For texts of one length whose ends are the same. Up to 32 bytes the next eight on both sides are the
     /// rest.
-    static bool sameInside(std::string_view left, std::string_view right) {
-        constexpr std::size_t end = sizeof(std::uint64_t);
-        const std::size_t size = left.size();
+    static bool sameInside(const char *left, const char *right, std::size_t size) {
         if (size <= 2 * end) return true;
-        if (size > 4 * end) return std::memcmp(left.data() + end, right.data() + end, size - 2 * end) == 0;
-        return std::memcmp(left.data() + end, right.data() + end, end) == 0 &&
-               std::memcmp(left.data() + size - 2 * end, right.data() + size - 2 * end, end) == 0;
+        if (size > 4 * end) return std::memcmp(left + end, right + end, size - 2 * end) == 0;
+        return wordAt(left + end) == wordAt(right + end) &&
+               wordAt(left + size - 2 * end) == wordAt(right + size - 2 * end);
     }
     void grow() {
         std::vector<Place> old(places_.size() * 2);
@@ -78,6 +106,7 @@ private:
         }
     }
 
+    std::array<Recent, 64> recent_{}; ///< by length and last character
     std::vector<Place> places_;
     std::uint32_t count_ = 0;
 };

@@ -302,8 +302,9 @@ private:
 
     std::string_view lastStartTag_; ///< in lower case; empty before the first
 
-    Pile<std::string_view> writtenNames_;        ///< of the pending tag's attributes, as the page has them
-    std::vector<std::uint32_t> attributePlaces_; ///< hash table over them; empty while they are few
+    Pile<std::string_view> writtenNames_; ///< of the pending tag's attributes, as the page has them
+    std::vector<std::uint32_t, LargeBuffers<std::uint32_t>>
+        attributePlaces_; ///< hash table over them; empty while they are few
     std::vector<SearchAhead> searches_;
 };
 

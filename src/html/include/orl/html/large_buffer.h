@@ -9,14 +9,15 @@
 
 namespace orl::html::core {
 
-/// From so many bytes on a piece of memory takes large pages, if the system has them.
+/// A list of so many bytes takes its memory where pages do.
 constexpr std::size_t largeBuffer = std::size_t(8) << 20;
 
-/// Asks the system for its large pages where nothing was written yet: the first touch of a small page costs
-/// more than filling it does. A hint that changes nothing else.
-ORL_HTML_API void askForLargePages(void *memory, std::size_t bytes) noexcept;
+/// 16-byte aligned memory where pages are kept, most often still warm from an earlier one and else in large
+/// pages of the machine. Throws std::bad_alloc.
+ORL_HTML_API void *takeLargeBuffer(std::size_t bytes);
+ORL_HTML_API void giveLargeBuffer(void *memory) noexcept;
 
-/// What a vector takes its memory from so that a long one gets large pages.
+/// What a vector takes its memory from so that a long one costs no first touch of memory each time.
 template<class T>
 struct LargeBuffers {
     using value_type = T;
@@ -27,11 +28,12 @@ struct LargeBuffers {
 
     T *allocate(std::size_t count) {
         if (count > std::numeric_limits<std::size_t>::max() / sizeof(T)) throw std::bad_array_new_length();
-        void *const memory = ::operator new(count * sizeof(T));
-        if (count * sizeof(T) >= largeBuffer) askForLargePages(memory, count * sizeof(T));
-        return static_cast<T *>(memory);
+        const std::size_t bytes = count * sizeof(T);
+        return static_cast<T *>(bytes < largeBuffer ? ::operator new(bytes) : takeLargeBuffer(bytes));
     }
-    void deallocate(T *memory, std::size_t) noexcept { ::operator delete(memory); }
+    void deallocate(T *memory, std::size_t count) noexcept {
+        count * sizeof(T) < largeBuffer ? ::operator delete(memory) : giveLargeBuffer(memory);
+    }
 
     friend bool operator==(const LargeBuffers &, const LargeBuffers &) { return true; }
 };
