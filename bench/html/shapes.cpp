@@ -9,6 +9,8 @@
 #include <malloc.h>
 #include <string>
 #include <string_view>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace orl::bench {
 
@@ -176,26 +178,48 @@ void keepMemory() {
     mallopt(M_TRIM_THRESHOLD, -1);
 }
 
-void measure(benchmark::State &state, const Shape &shape) {
-    keepMemory();
+struct Measured {
+    double size, seconds, ratio;
+};
+
+Measured measured(const Shape &shape) {
     constexpr double longEnough = 0.1;
     constexpr std::size_t largest = 64'000'000; // bytes of the smaller page
+    keepMemory();
     std::size_t size = shape.size;
     std::string once = shape.page(size);
     while (once.size() * 2 <= largest && secondsOf(shape, once) < longEnough)
         once = shape.page(size *= 2);
     const std::string twice = shape.page(2 * size);
     Best shorter, longer;
-    for (auto _ : state) {
-        for (int round = 0, settled = 0; round < mostRounds && settled < settledAfter; ++round) {
-            const bool isShorter = shorter.add(secondsOf(shape, once));
-            const bool isLonger = longer.add(secondsOf(shape, twice));
-            settled = isShorter || isLonger ? 0 : settled + 1;
-        }
+    for (int round = 0, settled = 0; round < mostRounds && settled < settledAfter; ++round) {
+        const bool isShorter = shorter.add(secondsOf(shape, once));
+        const bool isLonger = longer.add(secondsOf(shape, twice));
+        settled = isShorter || isLonger ? 0 : settled + 1;
     }
-    state.counters["size"] = double(size);
-    state.counters["seconds"] = shorter.seconds;
-    state.counters["ratio"] = longer.seconds / shorter.seconds;
+    return {double(size), shorter.seconds, longer.seconds / shorter.seconds};
+}
+
+/// Each in a process of its own, so that none finds the memory in the pieces that another has left.
+void measure(benchmark::State &state, const Shape &shape) {
+    for (auto _ : state) {
+        int ends[2];
+        Measured result{};
+        if (pipe(ends) != 0) return state.SkipWithError("no pipe");
+        const pid_t child = fork();
+        if (child == 0) {
+            result = measured(shape);
+            _exit(write(ends[1], &result, sizeof result) == sizeof result ? 0 : 1);
+        }
+        close(ends[1]);
+        const bool isRead = child > 0 && read(ends[0], &result, sizeof result) == sizeof result;
+        close(ends[0]);
+        if (child > 0) waitpid(child, nullptr, 0);
+        if (!isRead) return state.SkipWithError("the shape's process failed");
+        state.counters["size"] = result.size;
+        state.counters["seconds"] = result.seconds;
+        state.counters["ratio"] = result.ratio;
+    }
 }
 
 } // namespace

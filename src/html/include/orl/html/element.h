@@ -103,7 +103,9 @@ public:
     Element getElementById(std::string_view id) const;
     /// See hasClass. Without building any list of names.
     Elements getElementsByClass(std::string_view className) const;
+    /// The key is trimmed and compared without regard to case.
     Elements getElementsByAttribute(std::string_view key) const;
+    /// Some attribute's key starts like this, whatever its case.
     Elements getElementsByAttributeStarting(std::string_view keyPrefix) const;
     // The value may stand between quotes. Values are compared without regard to case.
     Elements getElementsByAttributeValue(std::string_view key, std::string_view value) const;
@@ -116,12 +118,15 @@ public:
     /// error: " and the text, of type SelectorParseException; the same holds below.
     Elements getElementsByAttributeValueMatching(std::string_view key, const Pattern &pattern) const;
     Elements getElementsByAttributeValueMatching(std::string_view key, std::string_view regex) const;
+    // By elementSiblingIndex.
     Elements getElementsByIndexLessThan(std::ptrdiff_t index) const;
     Elements getElementsByIndexGreaterThan(std::ptrdiff_t index) const;
     Elements getElementsByIndexEquals(std::ptrdiff_t index) const;
     /// Whatever the case, in text() or in ownText().
     Elements getElementsContainingText(std::string_view searchText) const;
     Elements getElementsContainingOwnText(std::string_view searchText) const;
+    /// The pattern is found in text(), or in ownText(). As each element's text is put together on its own,
+    /// the first two cost as much as the text times the depth at which it stands.
     Elements getElementsMatchingText(const Pattern &pattern) const;
     Elements getElementsMatchingText(std::string_view regex) const;
     Elements getElementsMatchingOwnText(const Pattern &pattern) const;
@@ -135,7 +140,7 @@ public:
     bool is(std::string_view cssQuery) const;
     bool is(const Evaluator &evaluator) const;
     /// A path of tags and classes that leads to this element and no other, from the nearest element with an
-    /// id or from the top.
+    /// id or from the top. Costs a search below each element on the way.
     std::string cssSelector() const;
 
     // ---- Text.

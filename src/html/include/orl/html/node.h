@@ -15,6 +15,8 @@
 // Memory. Nodes that go while others of their tree are held make room for new ones; texts and attributes that
 // are replaced, or go with their nodes, give their bytes back only when the whole tree goes. A tree that
 // stays as it is keeps the last few answers that it gave more than once, four bytes for each element found.
+// What trees give back is kept for the next ones: 64 MB, and beyond these up to a sixteenth of the machine's
+// memory, 2 GB at most, which the system may take whenever it needs some.
 //
 // Depth. No operation recurses over the depth of a tree; costs are linear in the size of what is visited
 // unless an operation says otherwise. Links to parents and siblings are followed in constant time.

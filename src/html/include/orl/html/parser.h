@@ -30,6 +30,7 @@ public:
     /// They have no parent.
     static std::vector<Node> parseFragment(std::string_view fragment, const Element &context,
                                            std::string_view baseUri);
+    /// The nodes of a piece of XML, without a parent.
     static std::vector<Node> parseXmlFragment(std::string_view fragment, std::string_view baseUri);
     /// A document with the fragment as its body.
     static Document parseBodyFragment(std::string_view bodyHtml, std::string_view baseUri);

@@ -17,6 +17,10 @@ namespace orl::html {
 /// | A B, A > B, A + B, A ~ B   | below, child of, right after, anywhere after |
 /// | A, B                       | either |
 /// | > B                        | child of the root of the search; likewise the other combinators |
+///
+/// A search is linear in the size of the tree, except that :matches puts the text of each element together on
+/// its own, and that a :has with :root, or with a combinator inside :not, in it is asked anew of each
+/// element.
 class ORL_HTML_API QueryParser {
 public:
     /// A query of white space only fails with "String must not be empty", one that is no selector with an

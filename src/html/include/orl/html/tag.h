@@ -21,6 +21,7 @@ public:
     /// The registered tag of this name, tried as it is and then as the settings normalise it, or a new tag. A
     /// name that normalises to "" fails with "String must not be empty".
     static Tag valueOf(std::string_view tagName, const ParseSettings &settings);
+    /// By ParseSettings::preserveCase: the name is only trimmed.
     static Tag valueOf(std::string_view tagName);
     /// Whether exactly this name is registered.
     static bool isKnownTag(std::string_view name);
