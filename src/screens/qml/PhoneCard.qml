@@ -30,11 +30,16 @@ Pressable {
     contentItem: ColumnLayout {
         spacing: Theme.space1
         GridLayout {
-            columns: Theme.large ? 2 : 3
+            readonly property real oneRow: flag.implicitWidth + country.implicitWidth + change.implicitWidth + 2 * columnSpacing
+            columns: Theme.large && oneRow > root.availableWidth ? 2 : 3
             columnSpacing: Theme.space2
             rowSpacing: 0
-            Flag { code: root.view.flag }
+            Flag {
+                id: flag
+                code: root.view.flag
+            }
             Words {
+                id: country
                 text: root.view.countryName
                 color: root.view.cardInk
                 font.pixelSize: Theme.rowSize
@@ -43,8 +48,9 @@ Pressable {
                 Accessible.ignored: true
             }
             QuietButton {
+                id: change
                 filled: true
-                Layout.columnSpan: Theme.large ? 2 : 1
+                Layout.columnSpan: parent.columns === 2 ? 2 : 1
                 text: "change"
                 ink: root.view.cardInk
                 Accessible.name: "Change number"
@@ -54,7 +60,8 @@ Pressable {
         Words {
             text: root.view.number
             color: root.view.cardInk
-            font.pixelSize: Theme.titleSize * 1.15
+            // Large text: as large as it fits anyway, without the height of a size that does not.
+            font.pixelSize: Theme.large ? Theme.headingSize : Theme.titleSize * 1.15
             font.weight: Font.Bold
             font.letterSpacing: Theme.numberSpacing
             wrapMode: Text.NoWrap
@@ -66,6 +73,7 @@ Pressable {
         Words {
             text: "Tap to copy!"
             color: root.view.cardInk
+            font.pixelSize: Theme.large ? Theme.secondarySize : Theme.textSize
             Layout.fillWidth: true
             Accessible.ignored: true
         }
