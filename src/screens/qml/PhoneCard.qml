@@ -30,16 +30,13 @@ Pressable {
     contentItem: ColumnLayout {
         spacing: Theme.space1
         GridLayout {
-            readonly property real oneRow: flag.implicitWidth + country.implicitWidth + change.implicitWidth + 2 * columnSpacing
+            readonly property real oneRow: children[0].implicitWidth + children[1].implicitWidth
+                + children[2].implicitWidth + 2 * columnSpacing
             columns: Theme.large && oneRow > root.availableWidth ? 2 : 3
             columnSpacing: Theme.space2
             rowSpacing: 0
-            Flag {
-                id: flag
-                code: root.view.flag
-            }
+            Flag { code: root.view.flag }
             Words {
-                id: country
                 text: root.view.countryName
                 color: root.view.cardInk
                 font.pixelSize: Theme.rowSize
@@ -48,9 +45,8 @@ Pressable {
                 Accessible.ignored: true
             }
             QuietButton {
-                id: change
                 filled: true
-                Layout.columnSpan: parent.columns === 2 ? 2 : 1
+                Layout.columnSpan: (parent as GridLayout).columns === 2 ? 2 : 1
                 text: "change"
                 ink: root.view.cardInk
                 Accessible.name: "Change number"

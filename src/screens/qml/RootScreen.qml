@@ -10,6 +10,8 @@ Loader {
     readonly property bool hidden: content.splashIsPresented
     readonly property bool due: filesRead > 0 || !hidden
     readonly property string file: content.hasCountry ? "MainScreen.qml" : "ChoosePhoneScreen.qml"
+    property string brought
+
 
     focus: !hidden
     enabled: !hidden
@@ -19,9 +21,10 @@ Loader {
     Component.onCompleted: bring()
 
     function bring() {
-        if (!due || source.toString().endsWith(file)) return;
+        if (!due || brought === file) return;
         // A file that is still being read when the splash goes would lose the properties that it is given here.
-        asynchronous = hidden && source.toString() === "";
+        asynchronous = hidden && brought === "";
+        brought = file;
         setSource(file, content.hasCountry ? { view: content.main } : { view: content.chooser, content: content });
     }
 }
