@@ -12,7 +12,6 @@ Loader {
     readonly property string file: content.hasCountry ? "MainScreen.qml" : "ChoosePhoneScreen.qml"
     property string brought
 
-
     focus: !hidden
     enabled: !hidden
     onHiddenChanged: asynchronous = hidden
