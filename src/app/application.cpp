@@ -5,8 +5,10 @@
 
 #include <QDBusConnection>
 #include <QDesktopServices>
+#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QLocale>
+#include <QQmlComponent>
 #include <QQuickWindow>
 #include <QStandardPaths>
 
@@ -77,6 +79,10 @@ int Application::run() {
 bool Application::show() {
     prepareScreens(engine_, process_.platform());
     prepareAds(engine_, process_);
+    // The engine reads the window's files on a thread of its own; looking through the system's fonts takes as
+    // long.
+    const QQmlComponent ahead(&engine_, QUrl(QString::fromLatin1(mainWindow)), QQmlComponent::Asynchronous);
+    QFontMetricsF(QGuiApplication::font()).height();
     engine_.setInitialProperties(
         {{QStringLiteral("content"), QVariant::fromValue(&content_)},
          {QStringLiteral("reviewPrompt"), QVariant::fromValue(&reviewPrompt_)},

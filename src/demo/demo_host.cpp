@@ -9,9 +9,8 @@
 #include "server.h"
 
 #include <QDateTime>
+#include <QTcpServer>
 #include <QThread>
-
-#include <future>
 
 using namespace Qt::StringLiterals;
 
@@ -39,13 +38,15 @@ public:
 
 /// Everything behind the server. A further kind of endpoint is a member here and an entry in `services`.
 struct DemoHost::World {
-    explicit World(quint64 seed)
+    World(quint64 seed, const demo::ConfigurationValues &values)
         : catalogue(seed),
           configuration(catalogue),
           first(catalogue, seed),
           second(catalogue, seed),
           mail(seed),
-          identities(seed) {}
+          identities(seed) {
+        configuration.setValues(values);
+    }
 
     demo::Server::Services services() const {
         return {{u"config"_s, &configuration}, {u"first"_s, &first},
@@ -71,40 +72,46 @@ struct DemoHost::World {
 /// Serves from start() until it is destroyed.
 class DemoHost::Thread : public QThread {
 public:
-    Thread(World &world, const DemoHostOptions &options) : world_(world), options_(options) {
-        setObjectName(u"demo host"_s);
-    }
+    explicit Thread(const DemoHost &host) : host_(host) { setObjectName(u"demo host"_s); }
 
     ~Thread() override {
         quit();
         wait();
     }
 
-    /// The port it listens on once it serves, 0 if it cannot.
+    /// The port it listens on, 0 if it cannot.
     std::future<quint16> port() { return port_.get_future(); }
 
 protected:
     void run() override {
-        demo::Server server(world_.services(), world_.first, world_.faults, options_.clock);
-        port_.set_value(server.open(options_.port));
+        // Who connects before the world is there waits for the first answer.
+        auto listener = std::make_unique<QTcpServer>();
+        listener->listen(QHostAddress::LocalHost, host_.options_.port);
+        port_.set_value(listener->serverPort());
+        if (!listener->isListening()) return;
+        World &world = host_.world();
+        demo::Server server(world.services(), world.first, world.faults, host_.options_.clock);
+        server.bind(listener.release()); // which takes it
         exec();
     }
 
 private:
-    World &world_;
-    const DemoHostOptions &options_;
+    const DemoHost &host_;
     std::promise<quint16> port_;
 };
 
 DemoHost::DemoHost(DemoHostOptions options)
-    : options_(std::move(options)), world_(std::make_unique<World>(options_.seed)) {
+    : options_(std::move(options)),
+      world_(std::async(std::launch::async, [seed = options_.seed, values = options_.configuration] {
+          return std::make_unique<World>(seed, values);
+      })) {
     if (!options_.clock) options_.clock = systemSeconds;
 }
 
 DemoHost::~DemoHost() = default;
 
 bool DemoHost::start() {
-    thread_ = std::make_unique<Thread>(*world_, options_);
+    thread_ = std::make_unique<Thread>(*this);
     auto port = thread_->port();
     thread_->start();
     port_ = port.get();
@@ -127,15 +134,15 @@ Endpoints DemoHost::endpoints() const {
 }
 
 void DemoHost::setFault(const QString &pathPrefix, Fault fault) {
-    world_->faults.set(pathPrefix, fault);
+    world().faults.set(pathPrefix, fault);
 }
 
 void DemoHost::clearFaults() {
-    world_->faults.clear();
+    world().faults.clear();
 }
 
 void DemoHost::setConfiguration(const demo::ConfigurationValues &values) {
-    world_->configuration.setValues(values);
+    world().configuration.setValues(values);
 }
 
 QByteArray endpointsFile(const Endpoints &endpoints) {

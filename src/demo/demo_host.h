@@ -5,6 +5,7 @@
 #include "platform/endpoints.h"
 
 #include <functional>
+#include <future>
 #include <memory>
 
 namespace orl {
@@ -14,13 +15,15 @@ struct DemoHostOptions {
     std::function<double()>
         clock;        ///< seconds since 1970, asked on the host's thread; none = the system's clock
     quint64 seed = 1; ///< another seed is another world: other numbers, other messages
+    demo::ConfigurationValues configuration{}; ///< until setConfiguration
 };
 
 /// Serves every endpoint of the system on one loopback port: lifelike pages, a new message every few seconds.
 ///
 /// It serves from a thread of its own, so a blocking reader on any other thread of the same process never
 /// waits for itself. What it serves depends only on the seed, the path and the time; a restarted program sees
-/// the same messages. Each kind of endpoint has a first path segment of its own: "/config", "/first",
+/// the same messages. The world is drawn on a thread too: only what needs it waits for it, a first answer
+/// above all. Each kind of endpoint has a first path segment of its own: "/config", "/first",
 /// "/second"...
 class DemoHost {
 public:
@@ -45,8 +48,10 @@ private:
     struct World;
     class Thread;
 
+    World &world() const { return *world_.get(); }
+
     DemoHostOptions options_;
-    std::unique_ptr<World> world_;
+    std::shared_future<std::unique_ptr<World>> world_;
     std::unique_ptr<Thread> thread_;
     quint16 port_ = 0;
 };

@@ -25,12 +25,14 @@ std::optional<Arguments> readArguments() {
     parser.addHelpOption();
     parser.addOptions({{u"port"_s, u"Listen on this port; 0 takes any free one."_s, u"N"_s, u"0"_s},
                        {u"seed"_s, u"Another seed is another world."_s, u"N"_s, u"1"_s},
+                       {u"ads"_s, u"Switch all advertising on."_s},
                        {u"print-endpoints"_s, u"Write the base addresses to FILE."_s, u"FILE"_s}});
     parser.process(*QCoreApplication::instance());
     bool portFits = false, seedFits = false;
     Arguments arguments;
     arguments.host.port = parser.value(u"port"_s).toUShort(&portFits);
     arguments.host.seed = parser.value(u"seed"_s).toULongLong(&seedFits);
+    if (parser.isSet(u"ads"_s)) arguments.host.configuration = orl::demo::livelyConfiguration();
     arguments.endpointsPath = parser.value(u"print-endpoints"_s);
     if (portFits && seedFits && parser.positionalArguments().isEmpty()) return arguments;
     std::fprintf(stderr,

@@ -44,8 +44,9 @@ Result<std::shared_ptr<EndpointsInForce>> EndpointsInForce::open(const QString &
     for (QString Endpoints::*kind : kinds) {
         if (!(endpoints.*kind).isEmpty()) continue;
         if (!inForce->demoHost_) {
-            inForce->demoHost_ = std::make_unique<DemoHost>();
-            inForce->demoHost_->setConfiguration(demo::livelyConfiguration());
+            DemoHostOptions options;
+            options.configuration = demo::livelyConfiguration();
+            inForce->demoHost_ = std::make_unique<DemoHost>(std::move(options));
             if (!inForce->demoHost_->start())
                 return Error{QStringLiteral("the demo host found no free port on 127.0.0.1")};
         }

@@ -3,7 +3,6 @@
 #include "random.h"
 
 #include <QHttpServerRequest>
-#include <QTcpServer>
 #include <QTimer>
 #include <QUrlQuery>
 
@@ -85,10 +84,6 @@ void deliver(QTcpSocket *socket, const Delivery &delivery) {
 Server::Server(const Services &services, const Service &fallback, FaultTable &faults,
                std::function<double()> clock)
     : services_(services), fallback_(fallback), faults_(faults), clock_(std::move(clock)) {}
-
-quint16 Server::open(quint16 port) {
-    return listen(QHostAddress::LocalHost, port);
-}
 
 bool Server::handleRequest(const QHttpServerRequest &request, QTcpSocket *socket) {
     const QString path = request.url().path(QUrl::FullyDecoded);

@@ -27,9 +27,6 @@ public:
     Server(const Services &services, const Service &fallback, FaultTable &faults,
            std::function<double()> clock);
 
-    /// Listens on the loopback interface; 0 asks for any free port. The port, or 0 if it cannot be had.
-    quint16 open(quint16 port);
-
 protected:
     bool handleRequest(const QHttpServerRequest &request, QTcpSocket *socket) override;
     void missingHandler(const QHttpServerRequest &request, QTcpSocket *socket) override;

@@ -3,7 +3,12 @@
 #include "ads/pop_up_ad.h"
 #include "config/internet_view_model.h"
 #include "numbers/request_view_model.h"
+#include "platform/queues.h"
 #include "screens/country_sections.h"
+
+#include <QPointer>
+
+#include <utility>
 
 namespace orl {
 
@@ -15,7 +20,7 @@ CountryScreen::CountryScreen(Process &process, RequestViewModel &request, Intern
       internet_(internet),
       firstSetup_(firstSetup),
       rows_({"name", "prefix", "flag", "continent"}) {
-    connect(&request_, &RequestViewModel::countriesChanged, this, &CountryScreen::showCountries);
+    connect(&request_, &RequestViewModel::countriesChanged, this, &CountryScreen::showCountriesSoon);
     connect(&internet_, &InternetViewModel::isConnectedChanged, this, &CountryScreen::stateChanged);
     showCountries();
 }
@@ -32,7 +37,16 @@ CountryScreen::State CountryScreen::state() const {
     return internet_.isConnected() ? State::Fetching : State::NotConnected;
 }
 
+/// A page brings its countries one by one. They are shown together, as each showing looks at all of them.
+void CountryScreen::showCountriesSoon() {
+    if (std::exchange(showingIsDue_, true)) return;
+    process_.platform().mainQueue.post([self = QPointer(this)] {
+        if (self) self->showCountries();
+    });
+}
+
 void CountryScreen::showCountries() {
+    showingIsDue_ = false;
     const QList<Country> all = request_.countries();
     shown_.clear();
     QList<KeyedListModel::Row> rows;

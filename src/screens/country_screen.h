@@ -54,6 +54,7 @@ Q_SIGNALS:
 
 private:
     void setTryAgain(const QUuid &signal);
+    void showCountriesSoon();
     void showCountries();
 
     Process &process_;
@@ -63,6 +64,7 @@ private:
     QString searchTerm_;
     QUuid tryAgain_;
     bool isPresented_ = false;
+    bool showingIsDue_ = false;
     bool noResults_ = false;
     QList<Country> shown_;
     KeyedListModel rows_;

@@ -1,10 +1,15 @@
 // Every screen in the hands of somebody who has a keyboard and no eyes: what can be pressed or typed into has
 // a name and a role, and Tab leads to it, with the arrow keys inside of lists and rows of tabs.
+#include "identity/sample_identities.h"
+#include "mail_screens_phone.h"
+#include "platform/json.h"
+#include "platform/qt/stored_consent.h"
 #include "resting.h"
+#include "screens/ad_images.h"
 #include "screens/conversation_view.h"
+#include "screens/full_screen_ad_view.h"
 #include "screens/review_prompt.h"
 #include "screens/screens.h"
-#include "screens_phone.h"
 
 #include <QAccessible>
 #include <QGuiApplication>
@@ -35,7 +40,7 @@ bool contains(const QQuickItem &outer, const QQuickItem *inner) {
     return inner && (inner == &outer || outer.isAncestorOf(inner));
 }
 
-struct KeyboardTest : ScreensTest {
+struct KeyboardTest : MailScreensTest {
     ~KeyboardTest() override { engine_.reset(); }
 
     void open() {
@@ -49,6 +54,42 @@ struct KeyboardTest : ScreensTest {
         show();
     }
 
+    /// The home screen with an ad among its rows, and one place of an ad that has not come.
+    void openAds() {
+        phone.bundle.infoValues[QStringLiteral("CFBundleDisplayName")] = QStringLiteral("Orl");
+        tracking.answer = TrackingStatus::Denied;
+        answerConfiguration(true);
+        openHome();
+        ASSERT_FALSE(ads.natives.isEmpty());
+        ads.natives.front()->receive(advertisement);
+        for (auto *banner : ads.banners)
+            banner->receive(advertisement);
+        phone.advance(std::chrono::seconds(1));
+        settle();
+    }
+
+    void openIdentity() {
+        openHome();
+        content->main()->select(2);
+        settle();
+    }
+
+    void generate() {
+        phone.urls.answer(QStringLiteral("https://identity.example/english-united-states/female"),
+                          encodeJson(test::wireIdentity()));
+        content->main()->fakeGenerator()->chooseGender(2);
+        content->main()->fakeGenerator()->tapGenerate();
+        phone.advance(std::chrono::seconds(2));
+        settle();
+    }
+
+    void openMail() {
+        makeHome(lively);
+        show();
+        content->main()->select(1);
+        settle();
+    }
+
     void openSettings() {
         openHome();
         content->main()->select(3);
@@ -58,8 +99,14 @@ struct KeyboardTest : ScreensTest {
     void show() {
         engine_ = std::make_unique<QQmlApplicationEngine>();
         prepareScreens(*engine_, process->platform());
-        engine_->setInitialProperties({{QStringLiteral("content"), QVariant::fromValue(content.get())},
-                                       {QStringLiteral("reviewPrompt"), QVariant::fromValue(&prompt)}});
+        prepareAds(*engine_, *process);
+        fullScreenAd_ = std::make_unique<FullScreenAdView>(*process, stage);
+        engine_->setInitialProperties(
+            {{QStringLiteral("content"), QVariant::fromValue(content.get())},
+             {QStringLiteral("reviewPrompt"), QVariant::fromValue(&prompt)},
+             {QStringLiteral("fullScreenAd"), QVariant::fromValue(fullScreenAd_.get())},
+             {QStringLiteral("trackingQuestion"), QVariant::fromValue(&trackingQuestion)},
+             {QStringLiteral("consentQuestion"), QVariant::fromValue(&consentQuestion)}});
         engine_->load(QUrl(QString::fromLatin1(mainWindow)));
         window_ = qobject_cast<QQuickWindow *>(engine_->rootObjects().value(0));
         ASSERT_NE(window_, nullptr);
@@ -77,6 +124,20 @@ struct KeyboardTest : ScreensTest {
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(window_, key, modifiers);
         QCoreApplication::processEvents();
+        // A field shows where it is by its own border and its cursor.
+        if (focus() && !focus()->inherits("QQuickTextInput") && !showsItself(*focus()))
+            unseen << describe(*focus());
+    }
+
+    /// Whether the eye finds the item that has the focus: by a frame in or around it.
+    static bool showsItself(const QQuickItem &item) {
+        if (isFrame(item)) return item.isVisible();
+        const auto children = item.childItems();
+        return std::any_of(children.begin(), children.end(),
+                           [](const QQuickItem *child) { return showsItself(*child); });
+    }
+    static bool isFrame(const QQuickItem &item) {
+        return QByteArray(item.metaObject()->className()).startsWith("FocusFrame");
     }
 
     QQuickItem *focus() const { return window_->activeFocusItem(); }
@@ -122,9 +183,14 @@ struct KeyboardTest : ScreensTest {
     }
 
     bool leavesSplash = true;
+    const AdAssets advertisement{.headline = QStringLiteral("Your city by bicycle"),
+                                 .callToAction = QStringLiteral("Ride")};
     ReviewPrompt prompt{browser, QUrl()};
+    AdStage stage{phone.mainQueue};
+    StoredQuestion trackingQuestion, consentQuestion;
     QStringList tabStops; ///< in their order
     QStringList turns;    ///< where Tab went back up
+    QSet<QString> unseen; ///< what had the focus without a sign of it
     QSet<QQuickItem *> reached;
 
 private:
@@ -194,6 +260,7 @@ private:
         if (row) row->forceActiveFocus(Qt::TabFocusReason);
     }
 
+    std::unique_ptr<FullScreenAdView> fullScreenAd_;
     std::unique_ptr<QQmlApplicationEngine> engine_;
 
 protected:
@@ -349,6 +416,83 @@ const Station stations[] = {
          test.settle();
      },
      2},
+    {"ads", [](KeyboardTest &test) { test.openAds(); }, 15},
+    {"ads_among_senders",
+     [](KeyboardTest &test) {
+         test.openAds();
+         test.content->home()->showSenders();
+         test.settle();
+     },
+     13},
+    {"full_screen_ad",
+     [](KeyboardTest &test) {
+         test.openHome();
+         test.stage.setReady(true);
+         test.stage.show({.assets = test.advertisement, .reward = std::chrono::seconds(15)});
+         test.settle();
+     },
+     2},
+    {"tracking_question",
+     [](KeyboardTest &test) {
+         test.openHome();
+         test.trackingQuestion.setReady(true);
+         test.trackingQuestion.ask([](auto) {});
+         test.settle();
+     },
+     2},
+    {"consent_question",
+     [](KeyboardTest &test) {
+         test.openHome();
+         test.consentQuestion.setReady(true);
+         test.consentQuestion.ask([](auto) {});
+         test.settle();
+     },
+     2},
+    {"identity", [](KeyboardTest &test) { test.openIdentity(); }, 8},
+    {"identity_offline",
+     [](KeyboardTest &test) {
+         test.phone.reachability.setOnline(true);
+         test.openHome();
+         test.phone.reachability.setOnline(false);
+         test.content->main()->select(2);
+         test.settle();
+     },
+     5},
+    {"generated_identity",
+     [](KeyboardTest &test) {
+         test.openIdentity();
+         test.generate();
+     },
+     10},
+    {"save_identity",
+     [](KeyboardTest &test) {
+         test.openIdentity();
+         test.generate();
+         test.content->main()->fakeGenerator()->openSaveDialog();
+         test.settle();
+     },
+     3},
+    {"saved_identities",
+     [](KeyboardTest &test) {
+         test.openIdentity();
+         test.generate();
+         test.content->main()->fakeGenerator()->setSaveNameText(QStringLiteral("Work"));
+         test.content->main()->fakeGenerator()->save();
+         test.phone.advance(std::chrono::seconds(3));
+         test.content->main()->fakeGenerator()->openSaved();
+         test.settle();
+     },
+     2},
+    {"mail_address", [](KeyboardTest &test) { test.openMail(); }, 6},
+    {"inbox",
+     [](KeyboardTest &test) {
+         test.phone.store.setValue(QStringLiteral("selected_email"), test.address);
+         test.answerInbox({QStringLiteral("one"), QStringLiteral("two")});
+         test.openMail();
+         test.phone.advance(std::chrono::seconds(3));
+         test.settle();
+     },
+     7},
 };
 
 class EveryScreen : public KeyboardTest, public testing::WithParamInterface<Station> {};
@@ -364,6 +508,7 @@ TEST_P(EveryScreen, IsReachedWithTabAndArrowsInReadingOrder) {
     }
     // Going round once, Tab turns back from the bottom to the top once.
     EXPECT_LE(turns.size(), 1) << qPrintable(turns.join(u'\n'));
+    EXPECT_TRUE(unseen.isEmpty()) << qPrintable(unseen.values().join(u'\n'));
 }
 
 TEST_F(KeyboardTest, ArrowsGoFromTabToTab) {

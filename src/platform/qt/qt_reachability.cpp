@@ -48,17 +48,6 @@ bool isPrivate(const QHostAddress &address) {
 
 } // namespace
 
-QtReachability::QtReachability() {
-    if (!QNetworkInformation::loadBackendByFeatures(QNetworkInformation::Feature::Reachability)) return;
-    follow(*QNetworkInformation::instance());
-}
-
-void QtReachability::follow(QNetworkInformation &information) {
-    system_ = information.reachability();
-    connect(&information, &QNetworkInformation::reachabilityChanged, this,
-            [this](QNetworkInformation::Reachability reachability) { system_ = reachability; });
-}
-
 bool QtReachability::canTarget(const QString &name) const {
     return !hostOf(name).isEmpty();
 }
@@ -66,7 +55,16 @@ bool QtReachability::canTarget(const QString &name) const {
 std::optional<unsigned> QtReachability::flags(const QString &name) const {
     const QString host = hostOf(name);
     if (host.isEmpty()) return std::nullopt;
-    return flagsFor(placeOf(host), system_, hasRouteOut());
+    const HostPlace place = placeOf(host);
+    if (place == HostPlace::Device) return flagsFor(place, QNetworkInformation::Reachability::Unknown, false);
+    return flagsFor(place, system(), hasRouteOut());
+}
+
+QNetworkInformation::Reachability QtReachability::system() const {
+    const bool loaded = QNetworkInformation::instance() || QNetworkInformation::loadBackendByFeatures(
+                                                               QNetworkInformation::Feature::Reachability);
+    return loaded ? QNetworkInformation::instance()->reachability()
+                  : QNetworkInformation::Reachability::Unknown;
 }
 
 QString QtReachability::hostOf(const QString &name) {

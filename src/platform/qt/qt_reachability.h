@@ -3,9 +3,6 @@
 #include "platform/reachability.h"
 
 #include <QNetworkInformation>
-#include <QObject>
-
-#include <atomic>
 
 namespace orl {
 
@@ -18,15 +15,16 @@ enum class HostPlace {
 
 /// Answers from what the system knows of its network; asks no name server and no host. Where no network
 /// service tells, the routing table does: with a route out, a host counts as reachable.
-class QtReachability : public QObject, public Reachability {
+class QtReachability : public Reachability {
 public:
-    /// On the main thread, with a QCoreApplication.
-    QtReachability();
+    /// On the main thread.
+    QtReachability() = default;
 
     /// A whole URL or a bare host name; it needs a host in it.
     bool canTarget(const QString &name) const override;
 
-    /// Callable from any thread.
+    /// On the main thread. What watches the network is loaded when it is first asked about a host that is not
+    /// this device, as that takes as long as everything else in the making of a LinuxPlatform.
     std::optional<unsigned> flags(const QString &name) const override;
 
     /// The host of a target: of a URL its host, otherwise the text itself. Empty where there is none.
@@ -37,9 +35,7 @@ public:
     static unsigned flagsFor(HostPlace place, QNetworkInformation::Reachability system, bool hasRoute);
 
 private:
-    void follow(QNetworkInformation &information);
-
-    std::atomic<QNetworkInformation::Reachability> system_ = QNetworkInformation::Reachability::Unknown;
+    QNetworkInformation::Reachability system() const;
 };
 
 } // namespace orl

@@ -7,9 +7,14 @@
 #include <QDBusMessage>
 #include <QDBusReply>
 #include <QDir>
+#include <QFile>
 #include <QLocalServer>
 #include <QLocalSocket>
-#include <QLockFile>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
 
 namespace orl {
 
@@ -29,6 +34,8 @@ SingleInstance::SingleInstance(const QString &dataFolder, const QDBusConnection 
     : name_(nameFor(dataFolder)), runtimeFolder_(runtimeFolder), bus_(bus) {}
 
 SingleInstance::~SingleInstance() {
+    server_.reset(); // ahead of the lock: who holds it next makes a socket of the same name
+    if (lock_ >= 0) ::close(lock_);
     if (!bus_.isConnected()) return;
     bus_.unregisterObject(objectPath);
     bus_.unregisterService(name_);
@@ -60,20 +67,24 @@ SingleInstance::Start SingleInstance::startOnBus(const QString &activationToken)
 
 SingleInstance::Start SingleInstance::startOnSocket(const QString &activationToken) {
     const QString socket = QDir(runtimeFolder_).filePath(name_);
-    // The lock goes with its process, however that ends; a socket file stays.
-    lock_ = std::make_unique<QLockFile>(socket + QStringLiteral(".lock"));
-    lock_->setStaleLockTime(0);
-    if (lock_->tryLock()) {
+    if (holdLock(socket + QStringLiteral(".lock"))) {
         listen(socket);
         return Start::First;
     }
-    if (lock_->error() != QLockFile::LockFailedError) return Start::First; // no place to hold a lock
     QLocalSocket first;
     first.connectToServer(socket);
     if (!first.waitForConnected(patienceMs)) return Start::NoAnswer;
     first.write(activationToken.toUtf8().left(longestToken) + '\n');
     const bool answered = first.waitForReadyRead(patienceMs) && first.readAll().startsWith("ok");
     return answered ? Start::Second : Start::NoAnswer;
+}
+
+/// The lock goes with its process, however that ends; its file and the socket's stay. What the file holds
+/// does not matter, so that nobody waits for a disk. Where there is no place for it, every start is the first
+/// one.
+bool SingleInstance::holdLock(const QString &path) {
+    lock_ = ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    return lock_ < 0 || ::flock(lock_, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
 }
 
 bool SingleInstance::listen(const QString &socket) {

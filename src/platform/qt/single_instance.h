@@ -8,7 +8,6 @@
 #include <memory>
 
 class QLocalServer;
-class QLockFile;
 
 namespace orl {
 
@@ -48,13 +47,14 @@ Q_SIGNALS:
 private:
     Start startOnBus(const QString &activationToken);
     Start startOnSocket(const QString &activationToken);
+    bool holdLock(const QString &path);
     bool listen(const QString &socket);
     void answerSocket();
 
     const QString name_;
     const QString runtimeFolder_;
     QDBusConnection bus_;
-    std::unique_ptr<QLockFile> lock_;
+    int lock_ = -1; ///< the open lock file
     std::unique_ptr<QLocalServer> server_;
 };
 

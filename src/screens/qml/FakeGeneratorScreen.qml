@@ -58,6 +58,7 @@ FocusScope {
                 }
             }
         }
+        KeepInSight { list: scroll }
         Column {
             id: footer
             anchors.bottom: parent.bottom

@@ -54,8 +54,20 @@ Item {
             FocusOrder.putBefore(currentItem, footerItem);
             FocusOrder.putBefore(headerItem, currentItem);
         }
+        // Past rows without room, which are places of ads that have not come.
+        function step(by) {
+            const before = currentIndex;
+            for (let next = before + by; next >= 0 && next < count; next += by) {
+                currentIndex = next;
+                if (currentItem && currentItem.height > 0) return;
+            }
+            currentIndex = before;
+        }
+        Keys.onDownPressed: step(1)
+        Keys.onUpPressed: step(-1)
         function enterRows() {
-            if (currentItem) currentItem.forceActiveFocus(Qt.TabFocusReason);
+            if (currentItem && currentItem.height === 0) step(1);
+            if (currentItem && currentItem.height > 0) currentItem.forceActiveFocus(Qt.TabFocusReason);
         }
         function chooseCurrent() {
             if (!activeFocus || !Theme.keyboardInUse) currentIndex = count > 0 ? Math.max(indexAt(0, contentY), 0) : -1;

@@ -12,6 +12,7 @@ Item {
     NoInternet {
         id: offline
         width: parent.width
+        compact: true
         visible: root.view.state === HomeView.Offline
         onActed: root.view.retry()
     }

@@ -3,7 +3,7 @@ import QtQuick
 // Scrolls a list to what the keyboard has reached in it.
 Item {
     id: root
-    required property ListView list
+    required property Flickable list
     readonly property Item reached: Theme.keyboardInUse ? Window.activeFocusItem : null
 
     function isInList(item) {

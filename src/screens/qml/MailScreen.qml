@@ -74,8 +74,12 @@ FocusScope {
             onMovementEnded: atTop = atYBeginning
             onCountChanged: settle.restart()
             onWidthChanged: settle.restart()
+            // Tab goes from the head to the chosen row and on to the foot, the arrow keys from row to row.
+            onCurrentItemChanged: {
+                FocusOrder.putBefore(currentItem, footerItem);
+                FocusOrder.putBefore(headerItem, currentItem);
+            }
             focus: true
-            activeFocusOnTab: true
             keyNavigationEnabled: true
             clip: true
             cacheBuffer: Theme.phoneHeight
@@ -104,7 +108,7 @@ FocusScope {
             delegate: MailRow {
                 required property int index
                 width: ListView.view.width
-                activeFocusOnTab: false
+                activeFocusOnTab: ListView.isCurrentItem || activeFocus
                 focusPolicy: Qt.NoFocus
                 onClicked: root.view.tapMail(index)
             }

@@ -28,7 +28,7 @@ RowLayout {
         clip: true
         boundsBehavior: Flickable.StopAtBounds
         model: root.entries
-        activeFocusOnTab: true
+        keyNavigationEnabled: false // Tab goes from one to the next
         Layout.fillWidth: true
         delegate: RowLayout {
             id: entry

@@ -37,15 +37,16 @@ T.ApplicationWindow {
         enabled: !root.adIsUp
         focus: !root.adIsUp
         helper: root.content.swipe
-        content: ConversationScreen { view: root.content.conversation }
+        content: Late {
+            focus: true
+            file: "ConversationScreen.qml"
+            properties: ({ view: root.content.conversation })
+        }
 
-        // Built behind the splash piece by piece, so that the first picture of the window does not wait for it.
-        Loader {
+        RootScreen {
             anchors.fill: parent
-            asynchronous: root.content.splashIsPresented
-            focus: !root.content.splashIsPresented
-            enabled: !root.content.splashIsPresented
-            sourceComponent: root.content.hasCountry ? mainScreen : chooser
+            content: root.content
+            filesRead: ahead.count
         }
         Loader {
             anchors.fill: parent
@@ -54,42 +55,42 @@ T.ApplicationWindow {
             sourceComponent: SplashScreen { view: root.content.splash }
         }
     }
-    Component {
-        id: mainScreen
-        MainScreen { view: root.content.main }
+    // The first picture of the window waits for the splash only; the other files are read behind it.
+    ReadAhead {
+        id: ahead
+        files: [root.content.hasCountry ? "MainScreen.qml" : "ChoosePhoneScreen.qml", "HomeScreen.qml"]
     }
-    Component {
-        id: chooser
-        ChoosePhoneScreen {
-            view: root.content.chooser
-            content: root.content
-        }
+    Connections {
+        target: root
+        enabled: !ahead.active
+        function onFrameSwapped() { ahead.active = true; }
     }
     CopiedBanner {
         anchors.centerIn: parent
         copyVM: root.content.copyVM
         z: 1
     }
-    Loader {
-        active: root.reviewPrompt !== null && root.reviewPrompt.isPresented
-        sourceComponent: ReviewSheet { prompt: root.reviewPrompt }
+    Late {
+        due: root.reviewPrompt !== null && root.reviewPrompt.isPresented
+        file: "ReviewSheet.qml"
+        properties: ({ prompt: root.reviewPrompt })
     }
-    Loader {
-        active: root.trackingQuestion !== null && root.trackingQuestion.isAsked
-        sourceComponent: TrackingSheet {
-            question: root.trackingQuestion
-            displayName: root.content.splash.displayName
-        }
+    Late {
+        due: root.trackingQuestion !== null && root.trackingQuestion.isAsked
+        file: "TrackingSheet.qml"
+        properties: ({ question: root.trackingQuestion, displayName: root.content.splash.displayName })
     }
-    Loader {
-        active: root.consentQuestion !== null && root.consentQuestion.isAsked
-        sourceComponent: ConsentSheet { question: root.consentQuestion }
+    Late {
+        due: root.consentQuestion !== null && root.consentQuestion.isAsked
+        file: "ConsentSheet.qml"
+        properties: ({ question: root.consentQuestion })
     }
-    Loader {
+    Late {
         anchors.fill: parent
         z: 2
-        active: root.adIsUp
-        focus: active
-        sourceComponent: FullScreenAd { view: root.fullScreenAd }
+        due: root.adIsUp
+        focus: due
+        file: "FullScreenAd.qml"
+        properties: ({ view: root.fullScreenAd })
     }
 }

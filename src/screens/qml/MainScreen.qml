@@ -20,22 +20,26 @@ FocusScope {
         TabPage {
             index: 0
             selectedIndex: root.view.selectedIndex
-            sourceComponent: HomeScreen { view: root.view.home }
+            file: "HomeScreen.qml"
+            properties: ({ view: root.view.home })
         }
         TabPage {
             index: 1
             selectedIndex: root.view.selectedIndex
-            sourceComponent: MailScreen { view: root.view.mail }
+            file: "MailScreen.qml"
+            properties: ({ view: root.view.mail })
         }
         TabPage {
             index: 2
             selectedIndex: root.view.selectedIndex
-            sourceComponent: FakeGeneratorScreen { view: root.view.fakeGenerator }
+            file: "FakeGeneratorScreen.qml"
+            properties: ({ view: root.view.fakeGenerator })
         }
         TabPage {
             index: 3
             selectedIndex: root.view.selectedIndex
-            sourceComponent: SettingsScreen { view: root.view.settings }
+            file: "SettingsScreen.qml"
+            properties: ({ view: root.view.settings })
         }
     }
     TabBar {

@@ -19,6 +19,7 @@ Item {
 
     NativeAdLayout {
         id: layout
+        focus: true
         y: root.padding
         width: root.width
         view: root.view.nativeAdView

@@ -8,6 +8,7 @@ Pressable {
     required property NativeAdView view
     default property alias rows: column.data
 
+    focus: true // a row of a list is given the focus as a whole
     text: "Ad: " + view.face.headline
     width: parent ? parent.width : implicitWidth
     cornerRadius: Theme.cardRadius

@@ -30,7 +30,9 @@ Pressable {
     contentItem: ColumnLayout {
         spacing: Theme.space1
         GridLayout {
-            columns: Theme.large ? 2 : 3
+            readonly property real oneRow: children[0].implicitWidth + children[1].implicitWidth
+                + children[2].implicitWidth + 2 * columnSpacing
+            columns: Theme.large && oneRow > root.availableWidth ? 2 : 3
             columnSpacing: Theme.space2
             rowSpacing: 0
             Flag { code: root.view.flag }
@@ -44,7 +46,7 @@ Pressable {
             }
             QuietButton {
                 filled: true
-                Layout.columnSpan: Theme.large ? 2 : 1
+                Layout.columnSpan: (parent as GridLayout).columns === 2 ? 2 : 1
                 text: "change"
                 ink: root.view.cardInk
                 Accessible.name: "Change number"
@@ -54,7 +56,8 @@ Pressable {
         Words {
             text: root.view.number
             color: root.view.cardInk
-            font.pixelSize: Theme.titleSize * 1.15
+            // Large text: as large as it fits anyway, without the height of a size that does not.
+            font.pixelSize: Theme.large ? Theme.headingSize : Theme.titleSize * 1.15
             font.weight: Font.Bold
             font.letterSpacing: Theme.numberSpacing
             wrapMode: Text.NoWrap
@@ -66,6 +69,7 @@ Pressable {
         Words {
             text: "Tap to copy!"
             color: root.view.cardInk
+            font.pixelSize: Theme.large ? Theme.secondarySize : Theme.textSize
             Layout.fillWidth: true
             Accessible.ignored: true
         }

@@ -41,6 +41,11 @@ Item {
             function onBackTapped() { root.dismissed(); }
         }
     }
+    // What it shows may have gone while it was still sliding out, and something else is to be shown.
+    onViewChanged: {
+        if (view && loader.status !== Loader.Null) loader.setSource("");
+        settle();
+    }
     onVisibleChanged: settle()
     onKeptChanged: settle()
     function settle() {

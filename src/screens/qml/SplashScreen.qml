@@ -46,15 +46,19 @@ FocusScope {
             Layout.fillWidth: true
         }
     }
-    Loader {
+    Late {
+        id: tracking
         anchors.fill: parent
-        active: root.view.showIDFAAlert || opacity > 0
+        due: root.view.showIDFAAlert || opacity > 0
         focus: true
         opacity: root.view.showIDFAAlert ? 1 : 0
-        sourceComponent: IDFAScreen {
-            displayName: root.view.displayName
-            onAction: root.view.continueTapped()
-        }
+        file: "IDFAScreen.qml"
+        properties: ({ displayName: root.view.displayName })
         Behavior on opacity { NumberAnimation { duration: Theme.motion } }
+    }
+    Connections {
+        target: tracking.item
+        ignoreUnknownSignals: true
+        function onAction() { root.view.continueTapped(); }
     }
 }

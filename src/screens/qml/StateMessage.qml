@@ -10,9 +10,11 @@ Item {
     property string button
     property bool busy: false
     property bool typing: false
+    property bool compact: Theme.large ///< where there is little room for what it says
+    readonly property int side: compact ? Theme.smallDrawing : Theme.drawing
     signal acted
 
-    implicitHeight: column.implicitHeight + 2 * Theme.space6
+    implicitHeight: column.implicitHeight + 2 * (compact ? Theme.space4 : Theme.space6)
     implicitWidth: Theme.leastWidth
 
     ColumnLayout {
@@ -24,7 +26,7 @@ Item {
         Image {
             visible: root.drawing !== ""
             source: root.drawing === "" ? "" : "qrc:/orl/drawings/" + root.drawing + ".svg"
-            sourceSize { width: Theme.drawing; height: Theme.drawing }
+            sourceSize { width: root.side; height: root.side }
             Layout.alignment: Qt.AlignHCenter
             Accessible.ignored: true
         }

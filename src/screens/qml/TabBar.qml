@@ -21,13 +21,27 @@ Rectangle {
         buttons.itemAt(next).forceActiveFocus();
     }
 
+    // All labels shrink alike until the widest one fits.
+    property int made: 0
+    readonly property real shrink: {
+        let fits = 1;
+        for (let i = 0; i < made; ++i) {
+            const button = buttons.itemAt(i) as TabBarButton;
+            if (button) fits = Math.min(fits, button.availableWidth / button.labelWidth);
+        }
+        return fits;
+    }
+
     Row {
         id: row
         anchors.horizontalCenter: parent.horizontalCenter
         Repeater {
             id: buttons
             model: root.tabs
+            onItemAdded: ++root.made
+            onItemRemoved: --root.made
             TabBarButton {
+                shrink: root.shrink
                 required property int index
                 width: Math.min(root.width, Theme.columnWidth) / root.tabs.count
                 checked: index === root.selectedIndex

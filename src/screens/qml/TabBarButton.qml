@@ -5,6 +5,8 @@ Pressable {
     id: root
     required property string label
     required property string image
+    property real shrink: 1 ///< of the label
+    readonly property real labelWidth: Math.max(1, metrics.advanceWidth(label)) ///< at its full size, bold
     readonly property color ink: checked ? Theme.accent : Theme.secondary
 
     text: label
@@ -16,6 +18,11 @@ Pressable {
     Accessible.checked: checked
     Accessible.selected: checked
 
+    FontMetrics {
+        id: metrics
+        font.pixelSize: Theme.captionSize
+        font.weight: Font.DemiBold
+    }
     contentItem: Column {
         spacing: Theme.space1
         Symbol {
@@ -27,10 +34,8 @@ Pressable {
             width: parent.width
             text: root.label
             color: root.ink
-            font.pixelSize: Theme.captionSize
+            font.pixelSize: Math.max(1, Math.floor(Theme.captionSize * root.shrink))
             font.weight: root.checked ? Font.DemiBold : Font.Normal
-            fontSizeMode: Text.HorizontalFit
-            minimumPixelSize: Theme.captionSize / 2
             textFormat: Text.PlainText
             horizontalAlignment: Text.AlignHCenter
             Accessible.ignored: true

@@ -1,7 +1,7 @@
 import QtQuick
 
-// The place of one tab's screen.
-Loader {
+// The place of one tab's screen, which is made when it is first selected and stays.
+Late {
     id: root
     required property int index
     required property int selectedIndex
@@ -9,10 +9,9 @@ Loader {
     property bool wasSelected: false
 
     anchors.fill: parent
-    active: wasSelected
+    due: wasSelected
     visible: selected
     enabled: selected
     focus: selected
     onSelectedChanged: if (selected) wasSelected = true
-    Component.onCompleted: if (selected) wasSelected = true
 }

@@ -67,6 +67,7 @@ QtObject {
     readonly property int chip: Math.round(32 * Math.min(textScale, 1.6))
     readonly property int toggle: Math.round(30 * Math.min(textScale, 1.3))
     readonly property int drawing: 160
+    readonly property int smallDrawing: 96
     readonly property int appIcon: 96
     readonly property int alertHeight: 400
 

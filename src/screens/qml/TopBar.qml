@@ -12,13 +12,11 @@ Rectangle {
     implicitHeight: row.implicitHeight + Theme.space2
     color: Theme.bar
 
+    // On a wide window the title stands above the column, and the way back beside it.
     RowLayout {
         id: row
-        anchors.verticalCenter: parent.verticalCenter
-        anchors.left: parent.left
-        anchors.right: parent.right
-        anchors.leftMargin: Theme.space1
-        anchors.rightMargin: Theme.margin
+        anchors.centerIn: parent
+        width: Math.min(parent.width, Theme.columnWidth + 2 * Theme.target) - 2 * Theme.space1
         spacing: Theme.space2
 
         SymbolButton {
