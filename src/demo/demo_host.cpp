@@ -85,7 +85,7 @@ public:
 
 protected:
     void run() override {
-        demo::Server server(world_.services(), world_.first, world_.faults, options_.clock);
+        demo::Server server(world_.services(), world_.first, world_.faults, options_.clock, options_.heard);
         port_.set_value(server.open(options_.port));
         exec();
     }
