@@ -47,8 +47,9 @@ TEST_F(AttachmentPicturesTest, ThePictureThatWasLookedAtLeastRecentlyGoesFirst) 
     const qsizetype bytes = qsizetype(4) * side * side;
     const int fit = int(AttachmentPictures::mostKept / bytes);
     ASSERT_EQ(fit, 3) << "the rows below count on it";
+    const QByteArray picture = encoded({side, side});
     for (const QChar name : QStringLiteral("abcd"))
-        phone.urls.answer(url(name), encoded({side, side}));
+        phone.urls.answer(url(name), picture);
     const struct {
         const char *shown, *read;
     } rows[] = {
