@@ -129,19 +129,17 @@ public:
     [[nodiscard]] virtual std::unique_ptr<NativeAdLoader> makeNativeLoader(const QString &unit) = 0;
 };
 
-/// Stands where there is no advertising: no ad ever loads.
+/// Stands where there is no advertising: no ad ever loads, and nobody is told that none did.
 class NoAdService final : public AdService {
 public:
     void start() override {}
     void setTestDevices(const QStringList &) override {}
     bool hasTopScreen() const override { return false; }
-    void loadRewardedInterstitial(const QString &, FullScreenLoaded completion) override {
-        completion(noAds());
-    }
-    void loadRewarded(const QString &, FullScreenLoaded completion) override { completion(noAds()); }
-    void loadAppOpen(const QString &, FullScreenLoaded completion) override { completion(noAds()); }
-    std::unique_ptr<Banner> makeBanner(const QString &, BannerSize, BannerEvents events) override {
-        return std::make_unique<NoBanner>(std::move(events));
+    void loadRewardedInterstitial(const QString &, FullScreenLoaded) override {}
+    void loadRewarded(const QString &, FullScreenLoaded) override {}
+    void loadAppOpen(const QString &, FullScreenLoaded) override {}
+    std::unique_ptr<Banner> makeBanner(const QString &, BannerSize, BannerEvents) override {
+        return std::make_unique<NoBanner>();
     }
     std::unique_ptr<NativeAdLoader> makeNativeLoader(const QString &) override {
         return std::make_unique<NoNativeLoader>();
@@ -153,27 +151,17 @@ public:
     }
 
 private:
-    static Error noAds() { return {QStringLiteral("no ads here")}; }
-
     class NoBanner final : public Banner {
     public:
-        explicit NoBanner(BannerEvents events) : events_(std::move(events)) {}
-        void load() override {
-            if (events_.failed) events_.failed(noAds());
-        }
+        void load() override {}
         const AdAssets *assets() const override { return nullptr; }
         void tap() override {}
-
-    private:
-        BannerEvents events_;
     };
 
     class NoNativeLoader final : public NativeAdLoader {
     public:
         QString description() const override { return QStringLiteral("no ad loader"); }
-        void load(std::function<void(Result<std::shared_ptr<NativeAdContent>>)> completion) override {
-            completion(noAds());
-        }
+        void load(std::function<void(Result<std::shared_ptr<NativeAdContent>>)>) override {}
     };
 };
 
