@@ -2,6 +2,7 @@
 
 #include "app/desktop_appearance.h"
 #include "platform/qt/linux_platform.h"
+#include "screens/ad_images.h"
 #include "screens/gallery.h"
 #include "screens/screens.h"
 
@@ -16,9 +17,11 @@ int runGallery() {
     LinuxPlatform phone({scratch.path(), {}, {}});
     Appearance appearance;
     const DesktopAppearance desktop(appearance);
-    Gallery gallery(appearance);
+    Process process(phone.platform());
+    Gallery gallery(appearance, process);
     QQmlApplicationEngine engine;
     prepareScreens(engine, phone.platform());
+    prepareAds(engine, process);
     engine.setInitialProperties({{QStringLiteral("gallery"), QVariant::fromValue(&gallery)}});
     engine.load(QUrl(QString::fromLatin1(galleryWindow)));
     const int exitCode = engine.rootObjects().isEmpty() ? 1 : QGuiApplication::exec();

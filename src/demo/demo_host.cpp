@@ -90,7 +90,8 @@ protected:
         port_.set_value(listener->serverPort());
         if (!listener->isListening()) return;
         World &world = host_.world();
-        demo::Server server(world.services(), world.first, world.faults, host_.options_.clock);
+        demo::Server server(world.services(), world.first, world.faults, host_.options_.clock,
+                            host_.options_.heard);
         server.bind(listener.release()); // which takes it
         exec();
     }

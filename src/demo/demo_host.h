@@ -16,6 +16,8 @@ struct DemoHostOptions {
         clock;        ///< seconds since 1970, asked on the host's thread; none = the system's clock
     quint64 seed = 1; ///< another seed is another world: other numbers, other messages
     demo::ConfigurationValues configuration{}; ///< until setConfiguration
+    std::function<void(const QString &path)> heard =
+        {}; ///< each request, on the host's thread; none = nobody
 };
 
 /// Serves every endpoint of the system on one loopback port: lifelike pages, a new message every few seconds.

@@ -82,11 +82,16 @@ void deliver(QTcpSocket *socket, const Delivery &delivery) {
 } // namespace
 
 Server::Server(const Services &services, const Service &fallback, FaultTable &faults,
-               std::function<double()> clock)
-    : services_(services), fallback_(fallback), faults_(faults), clock_(std::move(clock)) {}
+               std::function<double()> clock, std::function<void(const QString &path)> heard)
+    : services_(services),
+      fallback_(fallback),
+      faults_(faults),
+      clock_(std::move(clock)),
+      heard_(std::move(heard)) {}
 
 bool Server::handleRequest(const QHttpServerRequest &request, QTcpSocket *socket) {
     const QString path = request.url().path(QUrl::FullyDecoded);
+    if (heard_) heard_(path);
     const Fault fault = isControl(request) ? Fault() : faults_.find(path);
     Reply reply = isControl(request) ? control(request) : answer(request);
     reply = spoiled(std::move(reply), fault.kind, mix(1, path));

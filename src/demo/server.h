@@ -25,7 +25,7 @@ public:
     /// first website's pages begin at the root, and so they work in a browser too. All references outlive the
     /// server.
     Server(const Services &services, const Service &fallback, FaultTable &faults,
-           std::function<double()> clock);
+           std::function<double()> clock, std::function<void(const QString &path)> heard = {});
 
 protected:
     bool handleRequest(const QHttpServerRequest &request, QTcpSocket *socket) override;
@@ -39,6 +39,7 @@ private:
     const Service &fallback_;
     FaultTable &faults_;
     std::function<double()> clock_;
+    std::function<void(const QString &path)> heard_;
 };
 
 } // namespace orl::demo

@@ -1,8 +1,12 @@
 #pragma once
 
+#include "ads/native_ad_view.h"
 #include "screens/appearance.h"
 #include "screens/avatar_face.h"
 #include "screens/ssn_is_valid_alert_view.h"
+
+#include <memory>
+#include <vector>
 
 namespace orl {
 
@@ -19,14 +23,18 @@ class Gallery : public QObject {
     Q_PROPERTY(orl::SSNIsValidAlertView *ssnAlert READ ssnAlert CONSTANT)
     Q_PROPERTY(orl::AvatarFace face READ face CONSTANT)
     Q_PROPERTY(QStringList nameSets READ nameSets CONSTANT)
+    Q_PROPERTY(QVariantList ads READ ads CONSTANT)
 public:
-    explicit Gallery(Appearance &appearance, QObject *parent = nullptr);
+    /// The process is where the pictures of the ads are kept.
+    Gallery(Appearance &appearance, Process &process, QObject *parent = nullptr);
+    ~Gallery() override;
 
     Appearance *appearance() { return &appearance_; }
     KeyedListModel *genders() { return &genders_; }
     SSNIsValidAlertView *ssnAlert() { return &ssnAlert_; }
     AvatarFace face() const;
     QStringList nameSets() const;
+    QVariantList ads() const; ///< native cards; nothing happens when one is tapped
 
     Q_INVOKABLE void chooseGender(int index);
     Q_INVOKABLE void showSSN(); ///< puts a made-up result into the alert
@@ -35,6 +43,7 @@ private:
     Appearance &appearance_;
     KeyedListModel genders_;
     SSNIsValidAlertView ssnAlert_;
+    std::vector<std::unique_ptr<NativeAdView>> ads_;
 };
 
 } // namespace orl

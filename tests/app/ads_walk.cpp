@@ -1,51 +1,24 @@
 // Advertising from the first launch on: the questions ahead of it, each place with its switch on and off.
-#include "walker.h"
+#include "ads_walker.h"
 
 #include <QTest>
 
 namespace orl {
 namespace {
 
-/// An ad's name is "Ad: headline".
-const QString adName = QStringLiteral("Ad: ");
-
-class AdsWalk : public Walker {
+class AdsWalk : public AdsWalker {
 protected:
     AdsWalk() {
         values.bannerAdEnabled = values.openAdEnabled = values.rewardAdEnabled = values.nativeAdEnabled =
             values.interstitialAdEnabled = true;
         values.useXmarkNative = values.bannerIsActive = values.bannerOnNumberCard = true;
         values.bannerRandomDisplay = {true};
-        desk.setLocale(QStringLiteral("de_DE.UTF-8"));
     }
 
     void SetUp() override {
         Walker::SetUp();
-        host.setConfiguration(values);
-        ASSERT_TRUE(host.start());
+        serve();
     }
-
-    QStringList options() {
-        return servedBy(host) + QStringList{QStringLiteral("--choose"), QStringLiteral("United States"),
-                                            QStringLiteral("13055550149")};
-    }
-
-    /// The ads on the screen but for those that cover it.
-    qsizetype adsInPlace() {
-        return all([](const Accessible &control) {
-                   return isButton(control) && control.name().startsWith(adName);
-               })
-            .size();
-    }
-
-    static Fits fullScreenAd() {
-        return [](const Accessible &control) {
-            return control.role() == QStringLiteral("dialog") && control.name().startsWith(adName);
-        };
-    }
-
-    demo::ConfigurationValues values;
-    DemoHost host;
 };
 
 TEST_F(AdsWalk, FirstLaunchAsksThenEachPlaceHasItsAd) {
@@ -123,11 +96,11 @@ TEST_F(AdsWalk, NoFormWhereNoLawWantsOneAndNoAdWhereAllAreOff) {
     ASSERT_TRUE(wait(message()));
     for (const char *layout : {"Senders", "Recent", "Senders", "Recent"}) {
         ASSERT_NO_FATAL_FAILURE(press(tab(QLatin1String(layout)), layout));
-        QTest::qWait(300);
         EXPECT_EQ(adsInPlace(), 0);
         EXPECT_TRUE(all(fullScreenAd()).isEmpty());
     }
     killProgram();
+    EXPECT_EQ(asked(), 0);
 }
 
 /// A host of ads that is dead, or sends garbage, or answers late, costs nobody anything.

@@ -53,7 +53,9 @@ Desk::Desk() : environment_(QProcessEnvironment::systemEnvironment()) {
     environment_.insert(QStringLiteral("DISPLAY"), display);
     bus_ = start(QStringLiteral("dbus-daemon"), {QStringLiteral("--session"), QStringLiteral("--nofork"),
                                                  QStringLiteral("--print-address=1")});
-    environment_.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), QString::fromUtf8(firstLineOf(*bus_)));
+    const QString bus = QString::fromUtf8(firstLineOf(*bus_));
+    environment_.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), bus);
+    environment_.insert(QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS"), bus);
     if (problem_.isEmpty()) connectBuses();
 }
 
@@ -83,7 +85,8 @@ void Desk::connectBuses() {
     session.registerObject(QStringLiteral("/org/freedesktop/portal/desktop"), portal_,
                            QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
     notificationServer_ = new NotificationServer(session);
-    for (QObject *service : {static_cast<QObject *>(portal_), static_cast<QObject *>(notificationServer_)}) {
+    network_ = new PlayedNetwork(session);
+    for (QObject *service : std::initializer_list<QObject *>{portal_, notificationServer_, network_}) {
         service->moveToThread(&services_);
         QObject::connect(&services_, &QThread::finished, service, &QObject::deleteLater);
     }

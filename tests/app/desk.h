@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/desktop/notification_server.h"
+#include "played_network.h"
 
 #include <QDBusConnection>
 #include <QDBusContext>
@@ -47,11 +48,17 @@ public:
 
     /// What a program needs to run here.
     QProcessEnvironment environment() const { return environment_; }
-    /// Of the programs that are started from now on; "de_DE.UTF-8".
-    void setLocale(const QString &locale) { environment_.insert(QStringLiteral("LC_ALL"), locale); }
+    /// Of the programs that are started from now on.
+    void setVariable(const QString &name, const QString &value) { environment_.insert(name, value); }
+    void setLocale(const QString &locale) {
+        setVariable(QStringLiteral("LC_ALL"), locale);
+    } ///< "de_DE.UTF-8"
 
     QDBusConnection accessibilityBus() const;
     PlayedPortal &portal() { return *portal_; }
+    /// What the machine knows of its network; programs ask it on the bus of the system, which is the same
+    /// here.
+    PlayedNetwork &network() { return *network_; }
     /// What programs have asked to be notified of so far.
     std::vector<NotificationServer::Notification> notifications() const;
 
@@ -72,6 +79,7 @@ private:
     QThread services_;                              ///< what answers on the session bus runs here
     PlayedPortal *const portal_ = new PlayedPortal; ///< goes with its thread, like the next one
     NotificationServer *notificationServer_ = nullptr;
+    PlayedNetwork *network_ = nullptr;
 };
 
 } // namespace orl

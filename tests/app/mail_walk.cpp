@@ -1,4 +1,5 @@
 // The stations of the mail tab, on a host that goes on while the program is killed and started again.
+#include "demo/mail/letter_texts.h"
 #include "walker.h"
 
 #include <QRegularExpression>
@@ -12,8 +13,10 @@ public:
     void buildAddress();
     void watchMails();
     void readMails();
+    void readNote();
     void readMarksAfterARestart();
     void changeOfAddress();
+    void hostGoneAndBack();
     void offlineAndBack();
 
 protected:
@@ -47,7 +50,7 @@ protected:
 void MailWalk::buildAddress() {
     host.setConfiguration({}); // no ads
     ASSERT_TRUE(host.start());
-    startProgram(servedBy(host));
+    startProgram(servedByNetwork(host));
     ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("United States")), "a country"));
     ASSERT_NO_FATAL_FAILURE(press(number(QStringLiteral("+1")), "a number"));
     ASSERT_NO_FATAL_FAILURE(openTab());
@@ -86,15 +89,42 @@ void MailWalk::readMails() {
     EXPECT_TRUE(wait(named(QStringLiteral("Attached picture"))));
     lookAtRest(QStringLiteral("34-mail-attachment"));
     ASSERT_NO_FATAL_FAILURE(closeMail());
+    ASSERT_NO_FATAL_FAILURE(readNote());
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return wait(row(QStringLiteral("Welcome")))->description() == QStringLiteral("Read"); }, 20000))
         << "an opened mail is not marked";
     lookAtRest(QStringLiteral("35-mail-read"));
 }
 
+/// The third mail is plain text, one of a few; its line breaks are blanks in the page.
+void MailWalk::readNote() {
+    const demo::NoteText *note = nullptr;
+    ASSERT_TRUE(wait([&](const Accessible &control) {
+        for (const demo::NoteText &text : demo::noteTexts())
+            if (row(QString::fromUtf8(text.subject))(control)) note = &text;
+        return note != nullptr;
+    })) << "no plain text came";
+    ASSERT_NO_FATAL_FAILURE(openMail(QString::fromUtf8(note->subject), QStringLiteral("32-mail-plain-text")));
+    // The page has no accessible names; its words are copied out of it.
+    const QString words = QString::fromUtf8(note->text).simplified();
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            desk.run(QStringLiteral("xdotool"),
+                     {QStringLiteral("search"), QStringLiteral("--name"), QStringLiteral("^orl$"),
+                      QStringLiteral("windowfocus"), QStringLiteral("mousemove"), QStringLiteral("195"),
+                      QStringLiteral("600"), QStringLiteral("click"), QStringLiteral("1"),
+                      QStringLiteral("key"), QStringLiteral("ctrl+a"), QStringLiteral("ctrl+c")});
+            return clipboard().simplified() == words;
+        },
+        60000))
+        << "the page says " << qPrintable(clipboard().simplified());
+    lookAtRest(QStringLiteral("32-mail-plain-text"));
+    ASSERT_NO_FATAL_FAILURE(closeMail());
+}
+
 void MailWalk::readMarksAfterARestart() {
     killProgram();
-    startProgram(servedBy(host));
+    startProgram(servedByNetwork(host));
     ASSERT_NO_FATAL_FAILURE(openTab());
     ASSERT_TRUE(wait(row(QStringLiteral("Photos of Sunday"))));
     EXPECT_TRUE(QTest::qWaitFor(
@@ -121,21 +151,45 @@ void MailWalk::changeOfAddress() {
 }
 
 /// The mail host is gone for a while: the inbox stays as it is, and goes on when the host is back.
-void MailWalk::offlineAndBack() {
-    host.setFault(QStringLiteral("/mail"), Fault::Kind::Dead);
+void MailWalk::hostGoneAndBack() {
     ASSERT_TRUE(wait(row(QStringLiteral("Welcome to your inbox"))));
+    host.setFault(QStringLiteral("/mail"), Fault::Kind::Dead);
     ASSERT_NO_FATAL_FAILURE(press(tab(QStringLiteral("Settings")), "the settings"));
     ASSERT_NO_FATAL_FAILURE(openTab());
     EXPECT_TRUE(wait(row(QStringLiteral("Welcome to your inbox"))));
     host.clearFaults();
+    EXPECT_TRUE(wait(row(QStringLiteral("Confirm your address")))) << "the inbox does not go on";
+}
+
+/// The plug is pulled: the next poll finds that out, and says so until the user asks again with the plug in.
+void MailWalk::offlineAndBack() {
+    const Fits offline = named(QStringLiteral("Whoops!"));
+    const Fits retry = named(QStringLiteral("Try again!"));
+    desk.network().setOnline(false);
+    ASSERT_TRUE(wait(offline)) << "nothing says that there is no network";
+    EXPECT_TRUE(all(row(QStringLiteral("Welcome to your inbox"))).isEmpty());
+    lookAround(QStringLiteral("37-mail-offline"));
+    ASSERT_NO_FATAL_FAILURE(press(retry, "the button without a network"));
+    EXPECT_FALSE(all(offline).isEmpty());
+    desk.network().setOnline(true);
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] {
+            const QList<Accessible> button = all(retry);
+            if (!button.isEmpty()) button.first().press();
+            return button.isEmpty();
+        },
+        20000))
+        << "it stays offline";
+    ASSERT_TRUE(wait(row(QStringLiteral("Welcome to your inbox"))));
     EXPECT_TRUE(wait(row(QStringLiteral("Photos of Sunday")))) << "the inbox does not go on";
+    lookAtRest(QStringLiteral("38-mail-online"));
     killProgram();
 }
 
 TEST_F(MailWalk, AnAddressItsMailsAndAnotherAddress) {
-    for (const auto station :
-         {&MailWalk::buildAddress, &MailWalk::watchMails, &MailWalk::readMails,
-          &MailWalk::readMarksAfterARestart, &MailWalk::changeOfAddress, &MailWalk::offlineAndBack}) {
+    for (const auto station : {&MailWalk::buildAddress, &MailWalk::watchMails, &MailWalk::readMails,
+                               &MailWalk::readMarksAfterARestart, &MailWalk::changeOfAddress,
+                               &MailWalk::hostGoneAndBack, &MailWalk::offlineAndBack}) {
         (this->*station)();
         if (HasFatalFailure()) return;
     }

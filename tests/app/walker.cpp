@@ -69,11 +69,17 @@ void Walker::startProgram(const QStringList &options) {
         << "the splash stays";
 }
 
-QStringList Walker::servedBy(const DemoHost &host) {
-    const QString endpoints = data.filePath(QStringLiteral("endpoints"));
-    QFile file(endpoints);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(endpointsFile(host.endpoints())) > 0);
-    return {QStringLiteral("--endpoints"), endpoints};
+QStringList Walker::servedBy(const Endpoints &endpoints) {
+    const QString path = data.filePath(QStringLiteral("endpoints"));
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(endpointsFile(endpoints)) > 0);
+    return {QStringLiteral("--endpoints"), path};
+}
+
+QStringList Walker::servedByNetwork(const DemoHost &host) {
+    Endpoints endpoints = host.endpoints();
+    endpoints.connectivityProbe = QStringLiteral("https://probe.example");
+    return servedBy(endpoints);
 }
 
 void Walker::killProgram() {

@@ -37,7 +37,11 @@ protected:
     void startProgram(const QStringList &options = {});
     /// The options that have the program served by this host, which has started, in the place of the one
     /// within.
-    QStringList servedBy(const DemoHost &host);
+    QStringList servedBy(const DemoHost &host) { return servedBy(host.endpoints()); }
+    QStringList servedBy(const Endpoints &endpoints);
+    /// The same, and whether there is a network depends on Desk::network: a host of this machine itself would
+    /// always count as reachable.
+    QStringList servedByNetwork(const DemoHost &host);
 
     /// As when the phone's battery is taken out.
     void killProgram();

@@ -68,12 +68,16 @@ TEST_F(AdPlacesTest, EachPlaceAsksForItsUnit) {
     places.nativeCard(&place, QStringLiteral("inside_messages"));
     places.nativeCard(&place, QStringLiteral("inside_chat_5"));
     places.nativeCard(&place, QStringLiteral("fake_generator"));
+    places.nativeCard(&place, QStringLiteral("identity_after_button"));
+    for (const char *slot : {"change_email_top", "tmail_results"})
+        places.nativeCard(&place, QLatin1String(slot));
     places.homeCard(&place);
-    EXPECT_EQ(
-        ads.asked(),
-        (QStringList{QStringLiteral("banner banner"), QStringLiteral("inline chat-inline"),
-                     QStringLiteral("native message-list"), QStringLiteral("native message-list"),
-                     QStringLiteral("native identity-home"), QStringLiteral("inline full-screen-inline")}));
+    EXPECT_EQ(ads.asked(),
+              (QStringList{QStringLiteral("banner banner"), QStringLiteral("inline chat-inline"),
+                           QStringLiteral("native message-list"), QStringLiteral("native message-list"),
+                           QStringLiteral("native identity-home"), QStringLiteral("native identity-button"),
+                           QStringLiteral("native message-list"), QStringLiteral("native message-list"),
+                           QStringLiteral("inline full-screen-inline")}));
     EXPECT_EQ(places.blackBanner(&place)->banner(), nullptr) << "it is off";
 }
 

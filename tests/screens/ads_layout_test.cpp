@@ -3,6 +3,7 @@
 #include "ads/ads_phone.h"
 #include "ads/native_ad_card_view.h"
 #include "ads/native_ad_view_xmark.h"
+#include "ads/native_with_generate_button.h"
 #include "demo/ad_picture.h"
 #include "looks.h"
 #include "resting.h"
@@ -16,6 +17,7 @@
 #include <QQuickWindow>
 #include <QTest>
 
+#include <algorithm>
 #include <filesystem>
 
 namespace orl {
@@ -161,6 +163,30 @@ TEST_P(AdsLayoutTest, Banners) {
          " width: parent.width * 0.75; height: implicitHeight }",
          &inlined);
     EXPECT_GE(look("inline-banner"), 240);
+}
+
+TEST_P(AdsLayoutTest, CardThatHoldsTheGenerateButtonBack) {
+    letAdsLoad();
+    NativeWithGenerateButton ad(*process, *appVM);
+    ad.setShowNativeBeforeGenerate(true);
+    ads.natives.last()->receive(rich());
+    phone.advance(std::chrono::milliseconds(1600));
+    show("NativeBeforeGenerate { objectName: \"subject\"; ad: parent.view\n anchors.left: parent.left;"
+         " anchors.right: parent.right; anchors.margins: Theme.margin }",
+         &ad);
+    const auto shown = [this](const QString &words) {
+        const auto items = window->findChildren<QQuickItem *>();
+        return std::ranges::any_of(items, [&](const QQuickItem *item) {
+            return item->isVisible() && item->inherits("QQuickText") && item->property("text") == words;
+        });
+    };
+    EXPECT_GT(look("before-generate"), 80);
+    EXPECT_TRUE(shown(QStringLiteral("3"))) << "the whole seconds that are left";
+    EXPECT_FALSE(shown(QStringLiteral("Generate")));
+    phone.advance(std::chrono::seconds(4));
+    look("before-generate-over");
+    EXPECT_FALSE(shown(QStringLiteral("0")));
+    EXPECT_TRUE(shown(QStringLiteral("Generate")));
 }
 
 INSTANTIATE_TEST_SUITE_P(Looks, AdsLayoutTest, testing::ValuesIn(adLooks),

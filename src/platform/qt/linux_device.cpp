@@ -26,8 +26,9 @@ std::optional<QString> administratorsWord(const QString &machineInfo) {
 
 bool LinuxDevice::isTablet() const {
     constexpr int tablet = 30; // of the chassis types of the System Management BIOS, table 17
-    if (const auto word = administratorsWord(read(root_ + QStringLiteral("/etc/machine-info"))))
-        return *word == QLatin1String("tablet");
+    const QString machineInfo =
+        qEnvironmentVariable("SYSTEMD_ETC_MACHINE_INFO", root_ + QStringLiteral("/etc/machine-info"));
+    if (const auto word = administratorsWord(read(machineInfo))) return *word == QLatin1String("tablet");
     return read(root_ + QStringLiteral("/sys/class/dmi/id/chassis_type")).trimmed().toInt() == tablet;
 }
 

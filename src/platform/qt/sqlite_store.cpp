@@ -160,7 +160,10 @@ bool SqliteStore::connect() {
 }
 
 int SqliteStore::prepare() {
-    const bool ran = run("PRAGMA journal_mode = WAL") && run("PRAGMA synchronous = FULL") && run(schema);
+    // A large value is written page by page: larger pages halve the time of one of a megabyte, and a cache
+    // that holds its pages keeps them from being read again. A file that exists keeps its page size.
+    const bool ran = run("PRAGMA page_size = 16384") && run("PRAGMA cache_size = -8000") &&
+                     run("PRAGMA journal_mode = WAL") && run("PRAGMA synchronous = FULL") && run(schema);
     if (!ran || !Statement(database_.get(), selectSql).isPrepared()) return sqlite3_errcode(database_.get());
     Statement check(database_.get(), "PRAGMA quick_check(1)");
     const int code = check.step();

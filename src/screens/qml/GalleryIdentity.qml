@@ -4,7 +4,7 @@ import QtQuick
 import QtQuick.Layouts
 import Orl.Screens
 
-// What identities are shown with, the card of a social security number, and QR codes.
+// What identities are shown with, and QR codes.
 ColumnLayout {
     id: root
     required property Gallery gallery
@@ -40,16 +40,6 @@ ColumnLayout {
             spacing: Theme.space3
             GenderPicture { picture: "male"; gender: "Male" }
             GenderPicture { picture: "female"; gender: "Female" }
-        }
-    }
-    GallerySection {
-        title: "SSN card"
-        Layout.fillWidth: true
-        QuietButton {
-            text: "Show the SSN card"
-            filled: true
-            Layout.fillWidth: true
-            onClicked: root.gallery.showSSN()
         }
     }
     GallerySection {

@@ -41,6 +41,9 @@ T.ApplicationWindow {
             GalleryIdentity { gallery: root.gallery }
             GalleryPictures { gallery: root.gallery }
             GalleryCards { gallery: root.gallery }
+            GalleryMail { gallery: root.gallery }
+            GalleryAds { gallery: root.gallery }
+            GallerySheets { gallery: root.gallery }
         }
     }
     SSNIsValidAlert { alert: root.gallery.ssnAlert }

@@ -96,18 +96,28 @@ FocusScope {
                     }
                     Component.onCompleted: wanted = root.view.hasContent
                 }
-                // Where the web engine is not there, or cannot run, its words.
+                // Where the web engine is not there, or cannot run, its words, and why it is words alone.
                 Flickable {
                     anchors.fill: parent
                     anchors.margins: Theme.margin
                     visible: web.failed && root.view.hasContent
                     contentHeight: words.implicitHeight
                     clip: true
-                    Words {
+                    Column {
                         id: words
                         width: parent.width
-                        text: web.failed ? root.view.text : ""
-                        color: Theme.mailText
+                        spacing: Theme.space3
+                        Words {
+                            width: parent.width
+                            text: web.status === Loader.Error ? "Words only: the web view that shows the page is not installed." : "Words only: the web view does not run as root. Start Orl as another user to see the page."
+                            color: Theme.mailSecondary
+                            font.pixelSize: Theme.secondarySize
+                        }
+                        Words {
+                            width: parent.width
+                            text: web.failed ? root.view.text : ""
+                            color: Theme.mailText
+                        }
                     }
                 }
             }

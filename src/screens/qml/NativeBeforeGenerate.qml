@@ -12,11 +12,15 @@ Column {
         width: parent.width
         view: root.ad.card
     }
+    CountDownView {
+        anchors.horizontalCenter: parent.horizontalCenter
+        visible: !root.ad.showGenerateBtn
+        seconds: root.ad.seconds
+    }
     MainButton {
         width: parent.width
-        enabled: root.ad.showGenerateBtn
-        opacity: enabled ? 1 : 0.4
-        text: root.ad.showGenerateBtn ? "Generate" : Math.ceil(root.ad.seconds).toString()
+        visible: root.ad.showGenerateBtn
+        text: "Generate"
         onClicked: root.ad.tapGenerate()
     }
 }

@@ -6,7 +6,8 @@ T.AbstractButton {
     id: root
     property int cornerRadius: Theme.controlRadius
 
-    implicitWidth: Math.max(Theme.target, implicitContentWidth + leftPadding + rightPadding)
+    // Whole, as a text that gets a part of a point less than it needs wraps, and is laid out with two lines.
+    implicitWidth: Math.max(Theme.target, Math.ceil(implicitContentWidth) + leftPadding + rightPadding)
     implicitHeight: Math.max(Theme.target, implicitContentHeight + topPadding + bottomPadding)
     scale: down ? Theme.pressedScale : 1
     focusPolicy: Qt.StrongFocus

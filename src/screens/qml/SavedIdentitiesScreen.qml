@@ -46,11 +46,17 @@ FocusScope {
     }
     MainButton {
         id: ok
-        anchors.bottom: parent.bottom
+        anchors.bottom: banner.top
         anchors.bottomMargin: Theme.space2
         anchors.horizontalCenter: parent.horizontalCenter
         width: Math.min(parent.width, Theme.columnWidth) - 2 * Theme.margin
         text: "OK"
         onClicked: root.view.closeSaved()
+    }
+    AnchoredBanner {
+        id: banner
+        anchors.bottom: parent.bottom
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: ok.width
     }
 }

@@ -31,6 +31,9 @@ QtObject {
     readonly property color off: dark ? "#4A515C" : "#8A93A3"
     readonly property color dim: Qt.alpha("black", dark ? 0.6 : 0.4)
     readonly property color clear: "transparent"
+    // Round a ring, which ends as it begins.
+    readonly property list<color> ring: [accent, between(accent, good), good, between(good, bad), bad, between(bad, accent), accent]
+    function between(one: color, other: color): color { return Qt.tint(one, Qt.alpha(other, 0.5)); }
 
     readonly property bool large: textScale > 1.3
 

@@ -45,4 +45,14 @@ TEST(LinuxDeviceTest, TabletIsWhatTheMachineSaysItIs) {
     }
 }
 
+TEST(LinuxDeviceTest, TheVariableOfTheSystemsServicesNamesAnotherFile) {
+    const QTemporaryDir root;
+    write(root.filePath(QStringLiteral("etc/machine-info")), "CHASSIS=handset\n");
+    write(root.filePath(QStringLiteral("other")), "CHASSIS=tablet\n");
+    qputenv("SYSTEMD_ETC_MACHINE_INFO", root.filePath(QStringLiteral("other")).toLocal8Bit());
+    EXPECT_TRUE(LinuxDevice(root.path()).isTablet());
+    qunsetenv("SYSTEMD_ETC_MACHINE_INFO");
+    EXPECT_FALSE(LinuxDevice(root.path()).isTablet());
+}
+
 } // namespace orl

@@ -1,100 +1,36 @@
 #include "mail/leaks.h"
 #include "mail/mail_page.h"
-#include "spy_server.h"
+#include "mail_web_view.h"
 
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
 #include <QMap>
-#include <QQmlComponent>
-#include <QQmlEngine>
-#include <QQuickItem>
-#include <QQuickView>
-#include <QTest>
-
-#include <gtest/gtest.h>
-#include <tuple>
-#include <utility>
 
 using namespace orl;
 
 namespace {
 
-/// The web view as mails use it, and a server that hears whatever it lets out.
-class MailWebTest : public testing::Test {
-protected:
-    void SetUp() override {
-        view_.engine()->addImportPath(ORL_WEB_DIR);
-        component_.setData("import Orl.Web\nMailPage { anchors.fill: parent }", QUrl());
-        open();
-        view_.resize(390, 600);
-        view_.show();
+/// What of the web engine runs besides this program: those that draw pages, and all.
+std::pair<int, int> processes() {
+    QMap<QString, QString> parents;
+    for (const QString &id :
+         QDir(QStringLiteral("/proc")).entryList({QStringLiteral("[0-9]*")}, QDir::Dirs)) {
+        QFile status(QStringLiteral("/proc/%1/status").arg(id)),
+            line(QStringLiteral("/proc/%1/cmdline").arg(id));
+        if (!status.open(QIODevice::ReadOnly) || !line.open(QIODevice::ReadOnly)) continue;
+        if (!line.readAll().contains("QtWebEngineProcess")) continue;
+        for (const QByteArray &row : status.readAll().split('\n'))
+            if (row.startsWith("PPid:")) parents[id] = QString::fromLatin1(row.mid(5).trimmed());
     }
-
-    void TearDown() override { close(); }
-
-    void open() {
-        mail_ = qobject_cast<QQuickItem *>(component_.create());
-        ASSERT_NE(mail_, nullptr) << component_.errorString().toStdString();
-        mail_->setParentItem(view_.contentItem());
+    const QString own = QString::number(QCoreApplication::applicationPid());
+    int all = 0, drawing = 0;
+    for (const QString &parent : parents) {
+        all += parent == own || parents.value(parent) == own;
+        drawing += parents.value(parent) == own; // forked off by one that waits
     }
-    void close() { delete std::exchange(mail_, nullptr); }
-
-    QObject &web() const { return *mail_->findChild<QObject *>(QStringLiteral("mailView")); }
-
-    /// Shows a page and waits until it has loaded.
-    void load(const QString &page, bool withheld = false) {
-        mail_->setProperty("withheld", withheld);
-        mail_->setProperty("page", page);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return mail_->property("ready").toBool(); }, 30000))
-            << page.left(200).toStdString();
-    }
-
-    QString title() const { return web().property("title").toString(); }
-
-    /// Runs a script in a page that may have scripts; what it says by its title.
-    QString say(const QString &script) {
-        load(QStringLiteral("<script>%1</script>").arg(script));
-        std::ignore = QTest::qWaitFor([&] { return title().startsWith(QStringLiteral("says ")); }, 10000);
-        return title().mid(5);
-    }
-
-    QString leak(const char *markup) const {
-        return QString::fromUtf8(markup).replace(QStringLiteral("spy.example"), spy.host());
-    }
-
-    /// A request that comes after all others that were made until now.
-    void knock() {
-        load(QStringLiteral("<img src='%1'>").arg(spy.url(QStringLiteral("/last"))));
-        ASSERT_TRUE(QTest::qWaitFor([&] { return spy.paths.contains(QStringLiteral("/last")); }, 30000));
-    }
-
-    /// What of the web engine runs besides this program: those that draw pages, and all.
-    static std::pair<int, int> processes() {
-        QMap<QString, QString> parents;
-        for (const QString &id :
-             QDir(QStringLiteral("/proc")).entryList({QStringLiteral("[0-9]*")}, QDir::Dirs)) {
-            QFile status(QStringLiteral("/proc/%1/status").arg(id)),
-                line(QStringLiteral("/proc/%1/cmdline").arg(id));
-            if (!status.open(QIODevice::ReadOnly) || !line.open(QIODevice::ReadOnly)) continue;
-            if (!line.readAll().contains("QtWebEngineProcess")) continue;
-            for (const QByteArray &row : status.readAll().split('\n'))
-                if (row.startsWith("PPid:")) parents[id] = QString::fromLatin1(row.mid(5).trimmed());
-        }
-        const QString own = QString::number(QCoreApplication::applicationPid());
-        int all = 0, drawing = 0;
-        for (const QString &parent : parents) {
-            all += parent == own || parents.value(parent) == own;
-            drawing += parents.value(parent) == own; // forked off by one that waits
-        }
-        return {drawing, all};
-    }
-
-    SpyServer spy;
-    QQuickView view_;
-    QQmlComponent component_{view_.engine()};
-    QQuickItem *mail_ = nullptr;
-};
+    return {drawing, all};
+}
 
 TEST_F(MailWebTest, AMailIsShownAsItIsAndItsPicturesAreLoaded) {
     load(mailPage(QStringLiteral("<img src='%1'>").arg(spy.url(QStringLiteral("/1")))));
