@@ -1,8 +1,6 @@
 // For the engine's own use: memory for lists that may be as long as a page.
 #pragma once
 
-#include <orl/html/export.h>
-
 #include <cstddef>
 #include <limits>
 #include <new>
@@ -14,8 +12,8 @@ constexpr std::size_t largeBuffer = std::size_t(8) << 20;
 
 /// 16-byte aligned memory where pages are kept, most often still warm from an earlier one and else in large
 /// pages of the machine. Throws std::bad_alloc.
-ORL_HTML_API void *takeLargeBuffer(std::size_t bytes);
-ORL_HTML_API void giveLargeBuffer(void *memory) noexcept;
+void *takeLargeBuffer(std::size_t bytes);
+void giveLargeBuffer(void *memory) noexcept;
 
 /// What a vector takes its memory from so that a long one costs no first touch of memory each time.
 template<class T>
