@@ -145,25 +145,25 @@ Arena &Arena::merge(Arena &left, Arena &right) {
 namespace {
 
 /// The place of a record in an open table, or the free place where it belongs. The table is never full.
-template<class Same>
-Ref &placeOf(Ref *refs, std::uint32_t capacity, std::uint32_t hash, Same same) {
-    std::uint32_t i = hash & (capacity - 1);
-    while (refs[i] && !same(refs[i]))
-        i = (i + 1) & (capacity - 1);
-    return refs[i];
+template<class Table, class Same>
+auto &placeOf(const Table &table, std::uint32_t hash, Same same) {
+    std::uint32_t i = hash & (table.capacity - 1);
+    while (table.places[i].ref && !(table.places[i].hash == hash && same(table.places[i].ref)))
+        i = (i + 1) & (table.capacity - 1);
+    return table.places[i];
 }
 
-template<class Table, class Hash>
-void makeRoom(Arena &arena, Table &table, Hash hashOfRef) {
+template<class Table>
+void makeRoom(Arena &arena, Table &table) {
     if (table.count * 2 < table.capacity) return;
-    const std::uint32_t capacity = std::max(32U, table.capacity * 2);
-    auto *refs = static_cast<Ref *>(arena.allocate(capacity * sizeof(Ref)));
-    std::fill_n(refs, capacity, 0);
+    Table larger{.capacity = std::max(32U, table.capacity * 2), .count = table.count};
+    const std::size_t bytes = larger.capacity * sizeof *larger.places;
+    larger.places = static_cast<decltype(larger.places)>(arena.allocate(bytes));
+    std::fill_n(larger.places, larger.capacity, typename Table::Place{});
     for (std::uint32_t i = 0; i < table.capacity; ++i)
-        if (const Ref ref = table.refs[i])
-            placeOf(refs, capacity, hashOfRef(ref), [](Ref) { return false; }) = ref;
-    table.refs = refs;
-    table.capacity = capacity;
+        if (const auto place = table.places[i]; place.ref)
+            placeOf(larger, place.hash, [](Ref) { return false; }) = place;
+    table = larger;
 }
 
 std::uint32_t tagHash(std::string_view name, std::uint16_t flags) {
@@ -174,20 +174,18 @@ std::uint32_t tagHash(std::string_view name, std::uint16_t flags) {
 
 Ref Arena::internName(std::string_view name) {
     if (const NameRec *known = knownName(name)) return refOf(known);
-    makeRoom(*this, names_, [](Ref ref) { return at<NameRec>(ref)->hash; });
+    makeRoom(*this, names_);
     const std::uint32_t hash = hashOf(name);
-    Ref &found = placeOf(names_.refs, names_.capacity, hash, [hash, name](Ref ref) {
-        return at<NameRec>(ref)->hash == hash && at<NameRec>(ref)->name() == name;
-    });
-    if (found) return found;
+    auto &found = placeOf(names_, hash, [name](Ref ref) { return at<NameRec>(ref)->name() == name; });
+    if (found.ref) return found.ref;
 
     auto *record = static_cast<NameRec *>(allocate(sizeof(NameRec)));
     const std::string_view text = store(name);
     const bool isData = name.starts_with("data-") && name.size() > 5;
     *record = {text.data(), std::uint32_t(text.size()), refOf(record), isData ? NameRec::Data : 0U, hash};
-    found = refOf(record);
+    const Ref ref = refOf(record);
+    found = {ref, hash};
     ++names_.count;
-    const Ref ref = found; // the table may move when the lower-case form is added
     if (!isLowerAscii(name)) {
         const std::string lower = lowerCase(name);
         if (lower != name) record->lower = internName(lower);
@@ -213,11 +211,12 @@ const TagRec *Arena::adopt(const TagRec *tag) {
 
 /// `like`, if given, is a record with the same name.
 const TagRec *Arena::dynamicTag(std::string_view name, std::uint16_t flags, const TagRec *like) {
-    makeRoom(*this, tags_, [](Ref ref) { return tagHash(at<TagRec>(ref)->name(), at<TagRec>(ref)->flags); });
-    Ref &found = placeOf(tags_.refs, tags_.capacity, tagHash(name, flags), [name, flags](Ref ref) {
+    makeRoom(*this, tags_);
+    const std::uint32_t hash = tagHash(name, flags);
+    auto &found = placeOf(tags_, hash, [name, flags](Ref ref) {
         return at<TagRec>(ref)->flags == flags && at<TagRec>(ref)->name() == name;
     });
-    if (found) return at<TagRec>(found);
+    if (found.ref) return at<TagRec>(found.ref);
 
     auto *record = static_cast<TagRec *>(allocate(sizeof(TagRec)));
     const std::string_view text = store(name);
@@ -237,7 +236,7 @@ const TagRec *Arena::dynamicTag(std::string_view name, std::uint16_t flags, cons
                flags,
                id,
                known ? known->id : TagId::Unknown};
-    found = refOf(record);
+    found = {refOf(record), hash};
     ++tags_.count;
     return record;
 }

@@ -484,8 +484,13 @@ private:
     };
 
     /// Names that the page brought along: an open table of references in the arena's own memory.
+    /// A table by hashes, which stand in it so that looking something up touches what has the same hash only.
     struct Interned {
-        Ref *refs = nullptr;
+        struct Place {
+            Ref ref; ///< 0: free
+            std::uint32_t hash;
+        };
+        Place *places = nullptr;
         std::uint32_t capacity = 0; ///< a power of two
         std::uint32_t count = 0;
     };
