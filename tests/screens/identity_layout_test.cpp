@@ -92,6 +92,9 @@ private:
             EXPECT_GE(place.left(), -0.5) << name.toStdString();
             EXPECT_LE(place.right(), window->width() + 0.5) << name.toStdString();
         }
+        if (item.inherits("QQuickText")) {
+            EXPECT_TRUE(holdsItsWords(item)) << name.toStdString();
+        }
         if (control) {
             EXPECT_FALSE(name.isEmpty()) << item.metaObject()->className();
             EXPECT_GE(std::min(item.width(), item.height()), 44) << name.toStdString();

@@ -164,6 +164,7 @@ private:
     void checkText(const QQuickItem &text) {
         const std::string who = "text '" + text.property("text").toString().toStdString() + "'";
         checkWithinWindow(text, who);
+        EXPECT_TRUE(holdsItsWords(text)) << who;
         if (text.property("wrapMode").toInt() != 0)
             return; // those that do not wrap are elided or fitted on purpose
         EXPECT_FALSE(text.property("truncated").toBool() && text.property("elide").toInt() == Qt::ElideNone)

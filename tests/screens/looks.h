@@ -2,6 +2,7 @@
 
 #include "screens/appearance.h"
 
+#include <QQuickItem>
 #include <QStringList>
 
 #include <ostream>
@@ -28,6 +29,15 @@ inline void setUp(Appearance &appearance, const Look &look) {
     appearance.setTextScale(look.textScale);
     appearance.setRightToLeft(look.rightToLeft);
     appearance.setReducedMotion(true);
+}
+
+/// Whether a text that neither wraps nor is shortened or made smaller to fit has the width that its words
+/// take.
+inline bool holdsItsWords(const QQuickItem &text) {
+    const bool adapts = text.property("wrapMode").toInt() != 0 ||
+                        text.property("elide").toInt() != Qt::ElideNone ||
+                        text.property("fontSizeMode").toInt() != 0;
+    return adapts || text.property("contentWidth").toDouble() <= text.width() + 0.5;
 }
 
 /// What the toolkit has warned of since a test began; a message handler gathers it.

@@ -159,7 +159,11 @@ private:
             EXPECT_GE(item.height(), 44) << name.toStdString();
             checkPlace(item, name);
         }
-        if (item.inherits("QQuickText")) checkPlace(item, item.property("text").toString());
+        if (item.inherits("QQuickText")) {
+            const QString words = item.property("text").toString();
+            checkPlace(item, words);
+            EXPECT_TRUE(holdsItsWords(item)) << words.toStdString();
+        }
         for (const QQuickItem *child : item.childItems())
             check(*child);
     }

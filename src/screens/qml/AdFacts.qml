@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Layouts
 import Orl.Screens
 
 // Stars, store and price of an ad, as far as it has them.

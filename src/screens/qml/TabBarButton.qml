@@ -6,7 +6,7 @@ Pressable {
     required property string label
     required property string image
     property real shrink: 1 ///< of the label
-    readonly property real labelWidth: Math.max(1, metrics.advanceWidth(label)) ///< at its full size, bold
+    readonly property real labelWidth: Math.max(1, metrics.advanceWidth) ///< at its full size, bold
     readonly property color ink: checked ? Theme.accent : Theme.secondary
 
     text: label
@@ -18,8 +18,9 @@ Pressable {
     Accessible.checked: checked
     Accessible.selected: checked
 
-    FontMetrics {
+    TextMetrics {
         id: metrics
+        text: root.label
         font.pixelSize: Theme.captionSize
         font.weight: Font.DemiBold
     }
