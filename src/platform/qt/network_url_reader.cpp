@@ -9,6 +9,7 @@
 #include <QNetworkRequest>
 
 #include <condition_variable>
+#include <functional>
 #include <optional>
 #include <utility>
 
@@ -110,13 +111,11 @@ struct NetworkUrlReader::Job {
 class NetworkUrlReader::Loader : public QObject {
 public:
     void load(const UrlRequest &request, const std::shared_ptr<Job> &job) {
-        if (!manager_) makeManager();
-        QNetworkReply *reply = manager_->get(networkRequest(request));
-        auto transfer = std::make_shared<Transfer>(Transfer{*reply, job, mostBytes(request), {}});
-        connect(reply, &QNetworkReply::metaDataChanged, reply,
-                [transfer] { checkAnnouncedLength(*transfer); });
-        connect(reply, &QNetworkReply::readyRead, reply, [transfer] { takeBytes(*transfer); });
-        connect(reply, &QNetworkReply::finished, reply, [transfer] { finish(*transfer); });
+        if (!manager_) manager_ = makeManager();
+        load(*manager_, request, job, [this, request, job] {
+            QNetworkAccessManager *own = makeManager();
+            load(*own, request, job, nullptr);
+        });
     }
 
 private:
@@ -124,12 +123,26 @@ private:
         QNetworkReply &reply;
         std::shared_ptr<Job> job;
         qint64 mostBytes;
+        std::function<void()> again; ///< none: it was the last attempt
         QByteArray body;
     };
 
-    void makeManager() {
-        manager_ = new QNetworkAccessManager(this);
-        manager_->setProxyFactory(new DeviceProxies);
+    void load(QNetworkAccessManager &manager, const UrlRequest &request, const std::shared_ptr<Job> &job,
+              std::function<void()> again) {
+        QNetworkReply *reply = manager.get(networkRequest(request));
+        auto transfer =
+            std::make_shared<Transfer>(Transfer{*reply, job, mostBytes(request), std::move(again), {}});
+        connect(reply, &QNetworkReply::metaDataChanged, reply,
+                [transfer] { checkAnnouncedLength(*transfer); });
+        connect(reply, &QNetworkReply::readyRead, reply, [transfer] { takeBytes(*transfer); });
+        connect(reply, &QNetworkReply::finished, reply, [transfer] { finish(*transfer); });
+        if (&manager != manager_) connect(reply, &QObject::destroyed, &manager, &QObject::deleteLater);
+    }
+
+    QNetworkAccessManager *makeManager() {
+        auto *manager = new QNetworkAccessManager(this);
+        manager->setProxyFactory(new DeviceProxies);
+        return manager;
     }
 
     static void giveUp(Transfer &transfer) {
@@ -150,8 +163,16 @@ private:
 
     static void finish(Transfer &transfer) {
         takeBytes(transfer);
-        transfer.job->end(outcome(transfer));
         transfer.reply.deleteLater();
+        if (transfer.again && wasNotAnswered(transfer)) return transfer.again();
+        transfer.job->end(outcome(transfer));
+    }
+
+    /// When a host closes a connection, Qt lets every request fail that waits for one to the same host,
+    /// though nobody has heard it. It is sent once more, with connections of its own.
+    static bool wasNotAnswered(const Transfer &transfer) {
+        return transfer.reply.error() == QNetworkReply::RemoteHostClosedError && transfer.body.isEmpty() &&
+               !transfer.reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid();
     }
 
     static Result<UrlResponse> outcome(const Transfer &transfer) {

@@ -77,6 +77,21 @@ TEST_F(NetworkUrlReaderTest, AnAnswerThatBreaksOffIsAnError) {
     }
 }
 
+TEST_F(NetworkUrlReaderTest, AHostThatHangsUpOnSomeRequestsLosesNoOther) {
+    const QUrl dead = server.url(QStringLiteral("/dead"));
+    server.answer(QStringLiteral("/dead"), "");
+    server.page(path, "here");
+    for (int round = 0; round < 5; ++round) {
+        // More than there are connections at a time, so that the last one waits for its turn.
+        std::vector<std::future<Result<UrlResponse>>> others;
+        for (int i = 0; i < 12; ++i)
+            others.push_back(std::async(std::launch::async, [&] { return reader.read({.url = dead}); }));
+        EXPECT_TRUE(read().ok());
+        for (auto &other : others)
+            EXPECT_FALSE(other.get().ok());
+    }
+}
+
 TEST_F(NetworkUrlReaderTest, UnpacksACompressedBody) {
     const QByteArray body = QByteArray(100'000, 'x') + "end";
     server.page(path, qCompress(body).mid(4), "Content-Encoding: deflate\r\n");
