@@ -2,6 +2,8 @@
 // the processor time of all their threads.
 //
 //     idle_bench REST SECONDS PROGRAM [ARGUMENT...] [-- PROGRAM [ARGUMENT...]]...
+#include "command.h"
+
 #include <chrono>
 #include <csignal>
 #include <cstdio>
@@ -44,13 +46,7 @@ double spent(pid_t process) {
 pid_t start(const std::vector<std::string> &command) {
     const pid_t process = fork();
     if (process != 0) return process;
-    std::vector<char *> arguments;
-    for (const std::string &argument : command)
-        arguments.push_back(const_cast<char *>(argument.c_str()));
-    arguments.push_back(nullptr);
-    execv(arguments[0], arguments.data());
-    std::perror(arguments[0]);
-    _exit(127);
+    execute(command);
 }
 
 } // namespace

@@ -6,6 +6,8 @@
 //
 // The moment of the first frame comes from Qt's own render loop log, so neither program does anything for
 // this.
+#include "command.h"
+
 #include <algorithm>
 #include <chrono>
 #include <csignal>
@@ -47,13 +49,7 @@ std::pair<double, double> mainThread(pid_t process) {
     dup2(log, STDERR_FILENO);
     setenv("QT_LOGGING_RULES", "qt.scenegraph.time.renderloop=true", 1);
     setenv("QT_FORCE_STDERR_LOGGING", "1", 1);
-    std::vector<char *> arguments;
-    for (const std::string &argument : command)
-        arguments.push_back(const_cast<char *>(argument.c_str()));
-    arguments.push_back(nullptr);
-    execv(arguments[0], arguments.data());
-    std::perror(arguments[0]);
-    _exit(127);
+    execute(command);
 }
 
 Start measure(const std::vector<std::string> &command) {

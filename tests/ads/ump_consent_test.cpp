@@ -222,6 +222,10 @@ TEST_F(UMPConsentTest, WithoutAServiceTheAnswersComeAtOnceAndNoFormIsShown) {
     base.tracking.request([&](TrackingStatus status) { denied += status == TrackingStatus::Denied; });
     base.push.requestPermission(true, [&](bool granted) { denied += !granted; });
     EXPECT_EQ(denied, 2);
+    auto &popUps = bare.shared<PopUpAd>();
+    popUps.loadInterstitial();
+    popUps.loadRewarded();
+    EXPECT_EQ(takeLines(), QStringList()) << "where there is no advertising, none is missed";
 }
 
 } // namespace orl

@@ -35,16 +35,12 @@ protected:
         };
     }
 
-    /// How many ads were asked for, of all units or of this one, since `forget`.
+    /// How many ads were asked for, of all units or of this one.
     qsizetype asked(const QString &unit = QString()) {
         const QString prefix =
             QStringLiteral("/ads/units/") + (unit.isEmpty() ? unit : unit + QStringLiteral("/"));
         const std::lock_guard lock(mutex_);
         return std::ranges::count_if(heard_, [&](const QString &path) { return path.startsWith(prefix); });
-    }
-    void forget() {
-        const std::lock_guard lock(mutex_);
-        heard_.clear();
     }
 
     demo::ConfigurationValues values;

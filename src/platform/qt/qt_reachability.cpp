@@ -61,8 +61,9 @@ std::optional<unsigned> QtReachability::flags(const QString &name) const {
 }
 
 QNetworkInformation::Reachability QtReachability::system() const {
-    const bool loaded = QNetworkInformation::instance() || QNetworkInformation::loadBackendByFeatures(
-                                                               QNetworkInformation::Feature::Reachability);
+    // Once: where there is none to load, looking for it again costs as much each time.
+    static const bool loaded =
+        QNetworkInformation::loadBackendByFeatures(QNetworkInformation::Feature::Reachability);
     return loaded ? QNetworkInformation::instance()->reachability()
                   : QNetworkInformation::Reachability::Unknown;
 }
