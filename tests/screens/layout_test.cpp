@@ -129,6 +129,12 @@ protected:
         orl::comeToRest(*window_->contentItem(), [this] { phone.settle(); });
     }
 
+    void checkWithinWindow(const QQuickItem &item, const std::string &who) {
+        const QRectF place = item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
+        EXPECT_GE(place.left(), -0.5) << who;
+        EXPECT_LE(place.right(), window_->width() + 0.5) << who;
+    }
+
 private:
     static constexpr int fastPng = 80; ///< of 100; less work for a larger file
 
@@ -169,12 +175,6 @@ private:
             return; // those that do not wrap are elided or fitted on purpose
         EXPECT_FALSE(text.property("truncated").toBool() && text.property("elide").toInt() == Qt::ElideNone)
             << who;
-    }
-
-    void checkWithinWindow(const QQuickItem &item, const std::string &who) {
-        const QRectF place = item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
-        EXPECT_GE(place.left(), -0.5) << who;
-        EXPECT_LE(place.right(), window_->width() + 0.5) << who;
     }
 
     QtMessageHandler previous_ = nullptr;
@@ -253,6 +253,9 @@ TEST_P(LayoutTest, Home) {
     look("recent");
     content->copyVM()->copy(QStringLiteral("482913"));
     look("copied");
+    const auto *banner = window_->findChild<QQuickItem *>(QStringLiteral("copied"));
+    ASSERT_NE(banner, nullptr);
+    checkWithinWindow(*banner, "what says so");
     phone.advance(std::chrono::seconds(2));
     content->home()->showSenders();
     look("senders");
