@@ -470,6 +470,41 @@ TEST_P(LayoutTest, Ads) {
     EXPECT_FALSE(consentQuestion_.isAsked());
 }
 
+/// With motion.
+class MovingLayoutTest : public LayoutTest {
+protected:
+    MovingLayoutTest() { appearance.setReducedMotion(false); }
+
+    /// Whether a text is in sight below the item.
+    static bool shows(const QQuickItem &item, const QString &text) {
+        if (!item.isVisible()) return false;
+        if (item.inherits("QQuickText") && item.property("text") == text) return true;
+        return std::ranges::any_of(item.childItems(),
+                                   [&](const QQuickItem *child) { return shows(*child, text); });
+    }
+    bool shows(const QString &text) { return shows(*window_->contentItem(), text); }
+};
+
+TEST_P(MovingLayoutTest, CountryTappedWhileTheLastOneSlidesOutShowsItsOwnNumbers) {
+    open();
+    comeToRest();
+    phone.urls.answer(QStringLiteral("https://first.example/en/niger"), test::numbersPage({"+227 555 0101"}));
+    ChoosePhoneView &chooser = *content->chooser();
+    chooser.tap(1);
+    comeToRest();
+    ASSERT_TRUE(shows(QStringLiteral("+1 5550100")));
+    chooser.setIsPresented(false);
+    PlayedAnimations::shared().advance();
+    ASSERT_TRUE(shows(QStringLiteral("+1 5550100"))) << "it is still on its way out";
+    chooser.tap(0);
+    comeToRest();
+    EXPECT_TRUE(shows(QStringLiteral("+2 275550101")));
+    EXPECT_FALSE(shows(QStringLiteral("+1 5550100")));
+}
+
+INSTANTIATE_TEST_SUITE_P(Phone, MovingLayoutTest, testing::Values(looks[0]),
+                         [](const auto &look) { return std::string(look.param.name); });
+
 INSTANTIATE_TEST_SUITE_P(Looks, LayoutTest, testing::ValuesIn(looks),
                          [](const auto &look) { return std::string(look.param.name); });
 
