@@ -136,6 +136,22 @@ protected:
         EXPECT_LE(place.right(), window_->width() + 0.5) << who;
     }
 
+    /// The button of this name below the item; null where none is in sight.
+    static const QQuickItem *button(const QQuickItem &item, const QString &name) {
+        if (!item.isVisible()) return nullptr;
+        if (item.inherits("QQuickAbstractButton") && item.property("text") == name) return &item;
+        for (const QQuickItem *child : item.childItems())
+            if (const QQuickItem *found = button(*child, name)) return found;
+        return nullptr;
+    }
+
+    /// Whether a button can be seen as a whole without scrolling, above the tabs.
+    bool isWhollyInSight(const QString &name) {
+        const QQuickItem *found = button(*window_->contentItem(), name);
+        const QQuickItem *tab = button(*window_->contentItem(), QStringLiteral("EMail"));
+        return found && tab && found->mapToScene({0, found->height()}).y() <= tab->mapToScene({0, 0}).y();
+    }
+
 private:
     static constexpr int fastPng = 80; ///< of 100; less work for a larger file
 
@@ -342,6 +358,7 @@ TEST_P(LayoutTest, HomeWithoutMessages) {
     look("offline-alert");
     content->home()->dismissOffline();
     look("offline");
+    EXPECT_TRUE(isWhollyInSight(QStringLiteral("Try again!")));
     phone.reachability.setOnline(true);
     phone.urls.hold(messagesUrl);
     content->home()->retry();
