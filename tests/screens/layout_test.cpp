@@ -517,6 +517,32 @@ TEST_P(MovingLayoutTest, CountryTappedWhileTheLastOneSlidesOutShowsItsOwnNumbers
     comeToRest();
     EXPECT_TRUE(shows(QStringLiteral("+2 275550101")));
     EXPECT_FALSE(shows(QStringLiteral("+1 5550100")));
+    EXPECT_EQ(complaints.join(u'\n').toStdString(), "") << "a screen outlived what it shows";
+}
+
+// Of a long list, some cards are still being made when it goes.
+TEST_P(MovingLayoutTest, ScreenGoesAheadOfWhatItShows) {
+    open();
+    comeToRest();
+    QList<QByteArray> many;
+    for (int i = 10; i < 50; ++i)
+        many << "+1 555 01" + QByteArray::number(i);
+    phone.urls.answer(norwayUrl, test::numbersPage(many));
+    phone.urls.answer(QStringLiteral("https://first.example/en/niger"), test::numbersPage({"+227 555 0101"}));
+    ChoosePhoneView &chooser = *content->chooser();
+    for (int frames = 1; frames <= 8; ++frames) {
+        chooser.tap(1);
+        for (int frame = 0; frame < frames; ++frame) {
+            phone.settle();
+            PlayedAnimations::shared().advance();
+            QCoreApplication::processEvents();
+        }
+        chooser.setIsPresented(false);
+        chooser.tap(0);
+        chooser.setIsPresented(false);
+        comeToRest();
+    }
+    EXPECT_EQ(complaints.join(u'\n').toStdString(), "");
 }
 
 INSTANTIATE_TEST_SUITE_P(Phone, MovingLayoutTest, testing::Values(looks[0]),
