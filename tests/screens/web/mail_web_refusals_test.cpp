@@ -25,12 +25,10 @@ protected:
         const QString path = QStringLiteral("/page") + QString::fromLatin1(number);
         host.page(path, "<title>" + number + "</title>" + markup, "Content-Type: text/html\r\n");
         leave(host.url(path));
-        ASSERT_TRUE(QTest::qWaitFor(
-            [&] {
-                return mail_->property("url").toUrl().path() == path &&
-                       !mail_->property("loading").toBool() && !title().isEmpty();
-            },
-            30000));
+        ASSERT_TRUE(waitUntil([&] {
+            return mail_->property("url").toUrl().path() == path && !mail_->property("loading").toBool() &&
+                   !title().isEmpty();
+        }));
     }
 
     /// Shows a mail that goes elsewhere by itself.
@@ -41,7 +39,7 @@ protected:
 
     /// What a page says by its title, of that form.
     QString said() {
-        std::ignore = QTest::qWaitFor([&] { return title().startsWith(QStringLiteral("says ")); }, 30000);
+        std::ignore = waitUntil([&] { return title().startsWith(QStringLiteral("says ")); });
         return title().mid(5);
     }
 
@@ -77,8 +75,8 @@ TEST_F(MailWebRefusalsTest, APageOfAHostThatNobodyVouchesForIsNotLoaded) {
     EXPECT_EQ(said(), QStringLiteral("refused"));
 
     leave(stranger.url(QStringLiteral("/page")));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !refused.isEmpty(); }, 30000)) << "nobody was asked";
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !mail_->property("loading").toBool(); }, 30000));
+    EXPECT_TRUE(waitUntil([&] { return !refused.isEmpty(); })) << "nobody was asked";
+    EXPECT_TRUE(waitUntil([&] { return !mail_->property("loading").toBool(); }));
     EXPECT_NE(title(), QStringLiteral("stranger"));
 
     ASSERT_NO_FATAL_FAILURE(knockAt(stranger));
@@ -117,7 +115,7 @@ TEST_F(MailWebRefusalsTest, NothingIsDownloaded) {
         SCOPED_TRACE(c.name);
         asked->setProperty("states", QString());
         ASSERT_NO_FATAL_FAILURE(visit(QByteArray("<script>") + c.script + "</script>"));
-        ASSERT_TRUE(QTest::qWaitFor([&] { return !asked->property("states").toString().isEmpty(); }, 30000))
+        ASSERT_TRUE(waitUntil([&] { return !asked->property("states").toString().isEmpty(); }))
             << "nobody was asked";
         EXPECT_EQ(asked->property("states").toString(), cancelled);
         EXPECT_TRUE(QDir(folder.path()).isEmpty());
