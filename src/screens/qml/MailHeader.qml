@@ -1,11 +1,13 @@
 import QtQuick
 import QtQuick.Layouts
-import Orl.Screens
 
 // Who wrote a mail, when and what about.
 ColumnLayout {
     id: root
-    required property MailDetailsView view
+    required property string sender
+    required property string senderAddress
+    required property string time
+    required property string subject
 
     spacing: Theme.space2
 
@@ -19,7 +21,7 @@ ColumnLayout {
         ColumnLayout {
             spacing: 0
             Words {
-                text: root.view.sender
+                text: root.sender
                 font.pixelSize: Theme.rowSize
                 font.weight: Font.DemiBold
                 maximumLineCount: 2
@@ -27,7 +29,7 @@ ColumnLayout {
                 Layout.fillWidth: true
             }
             Words {
-                text: root.view.senderAddress
+                text: root.senderAddress
                 color: Theme.secondary
                 font.pixelSize: Theme.secondarySize
                 wrapMode: Text.WrapAnywhere
@@ -37,7 +39,7 @@ ColumnLayout {
             }
         }
         Words {
-            text: root.view.time
+            text: root.time
             color: Theme.secondary
             font.pixelSize: Theme.secondarySize
             wrapMode: Text.NoWrap
@@ -56,7 +58,7 @@ ColumnLayout {
         Layout.fillWidth: true
     }
     Words {
-        text: root.view.subject
+        text: root.subject
         maximumLineCount: 4
         elide: Text.ElideRight
         Layout.fillWidth: true
