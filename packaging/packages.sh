@@ -19,7 +19,7 @@ run_packages=(
 test_packages=(
     libgtest-dev libgmock-dev qml6-module-qttest
     clang clang-format libclang-rt-14-dev
-    dbus xvfb at-spi2-core xdotool zbar-tools
+    dbus xvfb at-spi2-core xdotool zbar-tools libnss3-tools
 )
 
 # ensure_packages NAME...: installs what is missing, and asks apt nothing where nothing is.

@@ -2,6 +2,7 @@
 #include "platform/qt/desktop_notifications.h"
 #include "private_bus.h"
 #include "support/played_platform.h"
+#include "support/wait_until.h"
 
 #include <QFile>
 #include <QSignalSpy>

@@ -1,5 +1,6 @@
 #include "platform/qt/feedback_haptics.h"
 #include "private_bus.h"
+#include "support/wait_until.h"
 
 #include <QObject>
 #include <QVariantMap>

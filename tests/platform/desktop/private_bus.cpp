@@ -1,13 +1,12 @@
 #include "private_bus.h"
 
+#include "support/wait_until.h"
+
 #include <QCoreApplication>
 #include <QDBusMessage>
 #include <QDBusPendingCall>
 #include <QDBusPendingCallWatcher>
-#include <QDeadlineTimer>
-#include <QEventLoop>
 #include <QFile>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -61,17 +60,6 @@ QDBusConnection PrivateBus::connection(const QString &name) {
     QDBusConnection bus = QDBusConnection::connectToBus(address_, names_.back());
     EXPECT_TRUE(bus.isConnected());
     return bus;
-}
-
-bool waitUntil(const std::function<bool()> &reached) {
-    const QDeadlineTimer deadline(patience);
-    while (!reached()) {
-        if (deadline.hasExpired()) return false;
-        QTimer wake; // the loop looks again when the deadline has passed, whatever happens
-        wake.start(1000);
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
-    return true;
 }
 
 void settle(const QDBusConnection &bus, const QString &service) {

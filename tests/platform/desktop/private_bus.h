@@ -4,8 +4,6 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include <functional>
-
 namespace orl {
 
 /// A message bus of the test's own, on which nothing can be started: what answers, the test put there.
@@ -27,9 +25,6 @@ private:
     QString address_;
     QStringList names_;
 };
-
-/// Lets events run until `reached` holds; false when that takes longer than any machine needs.
-bool waitUntil(const std::function<bool()> &reached);
 
 /// Lets all messages that are under way from and to the owner of the name `service` arrive at `bus`: the
 /// owner's answer to one more call comes behind them. (The daemon's own answer would not do: it may overtake

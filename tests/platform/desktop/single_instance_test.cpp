@@ -1,5 +1,6 @@
 #include "platform/qt/single_instance.h"
 #include "private_bus.h"
+#include "support/wait_until.h"
 
 #include <QCoreApplication>
 #include <QSignalSpy>

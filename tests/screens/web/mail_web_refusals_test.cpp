@@ -4,6 +4,7 @@
 #include "platform/qt/loopback_server.h"
 
 #include <QDir>
+#include <QGuiApplication>
 #include <QSignalSpy>
 #include <QSslSocket>
 #include <QTemporaryDir>
@@ -25,12 +26,10 @@ protected:
         const QString path = QStringLiteral("/page") + QString::fromLatin1(number);
         host.page(path, "<title>" + number + "</title>" + markup, "Content-Type: text/html\r\n");
         leave(host.url(path));
-        ASSERT_TRUE(QTest::qWaitFor(
-            [&] {
-                return mail_->property("url").toUrl().path() == path &&
-                       !mail_->property("loading").toBool() && !title().isEmpty();
-            },
-            30000));
+        ASSERT_TRUE(waitUntil([&] {
+            return mail_->property("url").toUrl().path() == path && !mail_->property("loading").toBool() &&
+                   !title().isEmpty();
+        }));
     }
 
     /// Shows a mail that goes elsewhere by itself.
@@ -41,7 +40,7 @@ protected:
 
     /// What a page says by its title, of that form.
     QString said() {
-        std::ignore = QTest::qWaitFor([&] { return title().startsWith(QStringLiteral("says ")); }, 30000);
+        std::ignore = waitUntil([&] { return title().startsWith(QStringLiteral("says ")); });
         return title().mid(5);
     }
 
@@ -77,8 +76,8 @@ TEST_F(MailWebRefusalsTest, APageOfAHostThatNobodyVouchesForIsNotLoaded) {
     EXPECT_EQ(said(), QStringLiteral("refused"));
 
     leave(stranger.url(QStringLiteral("/page")));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !refused.isEmpty(); }, 30000)) << "nobody was asked";
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !mail_->property("loading").toBool(); }, 30000));
+    EXPECT_TRUE(waitUntil([&] { return !refused.isEmpty(); })) << "nobody was asked";
+    EXPECT_TRUE(waitUntil([&] { return !mail_->property("loading").toBool(); }));
     EXPECT_NE(title(), QStringLiteral("stranger"));
 
     ASSERT_NO_FATAL_FAILURE(knockAt(stranger));
@@ -117,7 +116,7 @@ TEST_F(MailWebRefusalsTest, NothingIsDownloaded) {
         SCOPED_TRACE(c.name);
         asked->setProperty("states", QString());
         ASSERT_NO_FATAL_FAILURE(visit(QByteArray("<script>") + c.script + "</script>"));
-        ASSERT_TRUE(QTest::qWaitFor([&] { return !asked->property("states").toString().isEmpty(); }, 30000))
+        ASSERT_TRUE(waitUntil([&] { return !asked->property("states").toString().isEmpty(); }))
             << "nobody was asked";
         EXPECT_EQ(asked->property("states").toString(), cancelled);
         EXPECT_TRUE(QDir(folder.path()).isEmpty());
@@ -153,6 +152,54 @@ TEST_F(MailWebRefusalsTest, NoPermissionIsGiven) {
                                       c.script + "</script>"));
         EXPECT_EQ(said().toStdString(), c.said);
     }
+}
+
+/// A browser opens a window for a real tap. Here what the tap wanted is shown in place, if it is a page of
+/// the web, and the page goes on living either way.
+TEST_F(MailWebRefusalsTest, ATapOpensNoWindowAndLeavesThePageAlive) {
+    const auto lives = [](const QByteArray &name) {
+        return "<script>let n = 0; setInterval(() => document.title = 'says " + name +
+               " ' + n++, 10)</script>";
+    };
+    for (const char *path : {"/window", "/window?"}) // as a form writes it
+        host.page(QString::fromLatin1(path), lives("window"), "Content-Type: text/html\r\n");
+    const QByteArray whole = " style='position:fixed;inset:0;width:100%;height:100%'";
+    const auto onTap = [&](const char *script) { return "<p" + whole + " onclick=\"" + script + "\">"; };
+    struct Case {
+        const char *name;
+        QByteArray page;
+        bool follows;
+    };
+    const Case cases[] = {
+        {"a script", onTap("window.open('/window')"), true},
+        {"a script that hides who opened it", onTap("window.open('/window', '', 'noopener')"), true},
+        {"a script of a frame",
+         "<iframe" + whole + " srcdoc=\"<body style=height:100vh onclick=window.open('/window')>\"></iframe>",
+         true},
+        {"a link", "<a" + whole + " href='/window' target=_blank>x</a>", true},
+        {"a form", "<form action='/window' target=_blank><button" + whole + ">x</button></form>", true},
+        {"a script that names no page", onTap("window.kept = window.open()"), false},
+        {"a script that writes into it",
+         onTap("window.open().document.write('<script>opener.n = 0</script>')"), false},
+        {"a script that closes it", onTap("window.open().close()"), false},
+        {"a link to a script", "<a" + whole + " href='javascript:1' target=_blank>x</a>", false},
+    };
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view_));
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.name);
+        ASSERT_NO_FATAL_FAILURE(visit(c.page + lives("page")));
+        QSignalSpy asked(&web(), SIGNAL(newWindowRequested(QQuickWebEngineNewWindowRequest *)));
+        ASSERT_TRUE(tap([&] { return !asked.isEmpty(); })) << "nobody was asked";
+        const QString who = QLatin1String(c.follows ? "window" : "page");
+        EXPECT_TRUE(waitUntil([&] { return said().startsWith(who); })) << said().toStdString();
+        for (int turns = 0; turns < 3; ++turns) {
+            const QString now = said();
+            EXPECT_TRUE(waitUntil([&] { return said() != now; })) << "its scripts stand still";
+            EXPECT_TRUE(said().startsWith(who)) << said().toStdString();
+        }
+        EXPECT_EQ(QGuiApplication::allWindows(), QWindowList{&view_});
+    }
+    ASSERT_NO_FATAL_FAILURE(visit("another page of that host"));
 }
 
 } // namespace

@@ -1,13 +1,16 @@
 #pragma once
 
 #include "spy_server.h"
+#include "support/wait_until.h"
 
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
 #include <QTest>
+#include <QTimer>
 
+#include <functional>
 #include <gtest/gtest.h>
 #include <tuple>
 #include <utility>
@@ -34,13 +37,21 @@ protected:
     }
     void close() { delete std::exchange(mail_, nullptr); }
 
+    /// Taps the page until it has noticed: a tap before the page has been drawn finds nothing under it.
+    bool tap(const std::function<bool()> &noticed) {
+        QTimer again;
+        again.callOnTimeout([this] { QTest::mouseClick(&view_, Qt::LeftButton, {}, QPoint(100, 100)); });
+        again.start(100);
+        return waitUntil(noticed);
+    }
+
     QObject &web() const { return *mail_->findChild<QObject *>(QStringLiteral("mailView")); }
 
     /// Shows a page and waits until it has loaded.
     void load(const QString &page, bool withheld = false) {
         mail_->setProperty("withheld", withheld);
         mail_->setProperty("page", page);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return mail_->property("ready").toBool(); }, 30000))
+        ASSERT_TRUE(waitUntil([&] { return mail_->property("ready").toBool(); }))
             << page.left(200).toStdString();
     }
 
@@ -49,7 +60,7 @@ protected:
     /// Runs a script in a page that may have scripts; what it says by its title.
     QString say(const QString &script) {
         load(QStringLiteral("<script>%1</script>").arg(script));
-        std::ignore = QTest::qWaitFor([&] { return title().startsWith(QStringLiteral("says ")); }, 10000);
+        std::ignore = waitUntil([&] { return title().startsWith(QStringLiteral("says ")); });
         return title().mid(5);
     }
 
@@ -60,7 +71,7 @@ protected:
     /// A request that comes after all others that were made until now.
     void knock() {
         load(QStringLiteral("<img src='%1'>").arg(spy.url(QStringLiteral("/last"))));
-        ASSERT_TRUE(QTest::qWaitFor([&] { return spy.paths.contains(QStringLiteral("/last")); }, 30000));
+        ASSERT_TRUE(waitUntil([&] { return spy.paths.contains(QStringLiteral("/last")); }));
     }
 
     SpyServer spy;
