@@ -97,6 +97,13 @@ void IdentityWalk::generation() {
     look(QStringLiteral("44-copied-name"));
     EXPECT_EQ(clipboard().toStdString(), savedName.toStdString());
     EXPECT_TRUE(gone(named(QStringLiteral("Copied to clipboard!"))));
+
+    const QString birthday = value("Date of birth");
+    EXPECT_FALSE(birthday.isEmpty());
+    ASSERT_NO_FATAL_FAILURE(press(named(QStringLiteral("Date of birth")), "a row"));
+    EXPECT_TRUE(wait(named(QStringLiteral("Copied to clipboard!"))));
+    EXPECT_EQ(clipboard().toStdString(), birthday.toStdString());
+    EXPECT_TRUE(gone(named(QStringLiteral("Copied to clipboard!"))));
 }
 
 void IdentityWalk::saves() {
