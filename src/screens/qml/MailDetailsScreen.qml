@@ -44,6 +44,7 @@ FocusScope {
                 Layout.rightMargin: Theme.margin
             }
             Rectangle {
+                id: card
                 color: Theme.mailGround
                 radius: Theme.cardRadius
                 implicitHeight: Theme.pageHeight
@@ -90,6 +91,12 @@ FocusScope {
                         value: root.view.page
                         when: web.status === Loader.Ready
                     }
+                    Binding {
+                        target: web.item
+                        property: "below"
+                        value: Math.max(0, card.y + web.y + web.height - scroll.contentY - scroll.height)
+                        when: web.status === Loader.Ready
+                    }
                     Connections {
                         target: root.view
                         function onMailChanged() { web.wanted = web.wanted || root.view.hasContent; }
@@ -117,6 +124,7 @@ FocusScope {
                             width: parent.width
                             text: web.failed ? root.view.text : ""
                             color: Theme.mailText
+                            horizontalAlignment: undefined // as the mail is written, not as the program is
                         }
                     }
                 }
