@@ -37,10 +37,9 @@ ColumnLayout {
             ColumnLayout {
                 spacing: Theme.space1
                 Words {
-                    text: root.view.shownAddress
+                    text: root.view.shownAddress.replace("@", "@\u200B") // breaks there first
                     font.pixelSize: Theme.headingSize
                     font.weight: Font.Bold
-                    wrapMode: Text.WrapAnywhere
                     maximumLineCount: 3
                     fontSizeMode: Text.Fit
                     minimumPixelSize: Theme.textSize

@@ -27,13 +27,13 @@ ColumnLayout {
                 Layout.fillWidth: true
             }
             Words {
-                text: root.view.senderAddress
+                text: root.view.senderAddress.replace("@", "@\u200B") // breaks there first
                 color: Theme.secondary
                 font.pixelSize: Theme.secondarySize
-                wrapMode: Text.WrapAnywhere
-                maximumLineCount: 2
+                maximumLineCount: 3
                 elide: Text.ElideRight
                 Layout.fillWidth: true
+                Accessible.name: root.view.senderAddress
             }
         }
         Words {
