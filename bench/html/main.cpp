@@ -5,11 +5,25 @@
 //     orl_html_bench --raw ...               as Google Benchmark prints it
 #include "bench.h"
 
+#include <malloc.h>
 #include <string_view>
 #include <vector>
 
+namespace {
+
+/// The C library gives long strings and emptied heaps back to the system and takes them anew, which costs
+/// ever so often many times what a parser does with them, at some size and not at half of it. Here it keeps
+/// them, for all parsers.
+void keepMemory() {
+    mallopt(M_MMAP_MAX, 0);
+    mallopt(M_TRIM_THRESHOLD, -1);
+}
+
+} // namespace
+
 int main(int argc, char **argv) {
     using namespace orl::bench;
+    keepMemory();
     addOperations();
     addHeap();
     addShapes();

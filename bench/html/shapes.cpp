@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <malloc.h>
 #include <string>
 #include <string_view>
 #include <sys/wait.h>
@@ -171,13 +170,6 @@ struct Best {
     }
 };
 
-/// The C library gives long strings back to the system and takes them anew, which costs ever so often many
-/// times what the engine does with them, at some size and not at half of it. Here it keeps them.
-void keepMemory() {
-    mallopt(M_MMAP_MAX, 0);
-    mallopt(M_TRIM_THRESHOLD, -1);
-}
-
 struct Measured {
     double size, seconds, ratio;
 };
@@ -185,7 +177,6 @@ struct Measured {
 Measured measured(const Shape &shape) {
     constexpr double longEnough = 0.1;
     constexpr std::size_t largest = 64'000'000; // bytes of the smaller page
-    keepMemory();
     std::size_t size = shape.size;
     std::string once = shape.page(size);
     while (once.size() * 2 <= largest && secondsOf(shape, once) < longEnough)

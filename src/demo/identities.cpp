@@ -17,9 +17,6 @@ namespace {
 
 constexpr const char *mailDomains = "example.com;example.net;example.org;mail.example;post.example";
 constexpr const char *bloodTypes = "A+;A-;AB+;AB-;B+;B-;O+;O-";
-constexpr const char *eyeColours = "Amber;Blue;Brown;Gray;Green;Hazel";
-constexpr const char *hairs =
-    "Curly, black;Long, auburn;Shaved;Short, brown;Straight, black;Wavy, blond;Short, gray;Braided, brown";
 constexpr const char *sports =
     "Archery;Badminton;Climbing;Fencing;Handball;Judo;Rowing;Sailing;Table tennis;Volleyball";
 constexpr const char *userAgents =
@@ -35,6 +32,28 @@ constexpr const char *quietWords =
 
 constexpr const char *animals =
     "badger;crane;dormouse;egret;finch;gecko;heron;ibis;lark;lynx;marten;newt;otter;plover;robin;stoat";
+
+/// How people look. Men and women wear their hair differently, and where nearly everybody's is black, so is
+/// everybody's here.
+struct Looks {
+    const char *eyes;
+    const char *maleHair;
+    const char *femaleHair;
+};
+constexpr Looks mixedLooks{"Amber;Blue;Brown;Gray;Green;Hazel",
+                           "Curly, black;Shaved;Short, auburn;Short, brown;Straight, black;Wavy, blond",
+                           "Bobbed, brown;Braided, blond;Curly, black;Long, auburn;Long, brown;Wavy, blond"};
+constexpr Looks darkLooks{
+    "Black;Brown;Dark brown;Hazel",
+    "Curly, black;Shaved;Short, black;Short, dark brown;Straight, black;Wavy, black",
+    "Bobbed, black;Braided, black;Curly, black;Long, black;Long, dark brown;Straight, black"};
+
+const Looks &looksOf(const NameRow &names) {
+    for (const char *dark : {"arabic", "Bengali", "persian", "indonesian", "japanese", "kazakh", "korean",
+                             "nepali", "vietnamese", "chinese"})
+        if (QLatin1String(names.nameSet) == QLatin1String(dark)) return darkLooks;
+    return mixedLooks;
+}
 
 /// The choices of one person. Where the person served before took from one half of a list, this one takes
 /// from the other, so that no two in a row share a value.
@@ -113,6 +132,12 @@ Person drawPerson(Draw &draw, const NameRow &names, bool female) {
     return {given, formOf(surname, female), formOf(mother, true), female};
 }
 
+/// A surname that stands alone begins with a capital: "van der Meer" becomes "Van der Meer".
+QString alone(QString surname) {
+    surname[0] = surname[0].toTitleCase(); // Georgian has capitals, and begins no word with one
+    return surname;
+}
+
 QString fullName(const Person &person, const NameRow &names) {
     QString name;
     for (const char *c = names.format; *c; ++c)
@@ -166,26 +191,26 @@ void putBirth(QJsonObject &json, Draw &draw, double now) {
 }
 
 /// Centimetres and kilograms that one body can have.
-void putBody(QJsonObject &json, Draw &draw, bool female) {
+void putBody(QJsonObject &json, Draw &draw, const Looks &looks, bool female) {
     const double height = (female ? 152 : 164) + draw.below(300) / 10.0;
     const double index = 19 + draw.below(100) / 10.0; // kilograms per square metre
     json[u"height"_s] = rounded(height, 1);
     json[u"weight"_s] = rounded(index * height * height / 1e4, 1);
     json[u"blood"_s] = draw.from(bloodTypes);
-    json[u"eye"_s] = draw.from(eyeColours);
-    json[u"hair"_s] = draw.from(hairs);
+    json[u"eye"_s] = draw.from(looks.eyes);
+    json[u"hair"_s] = draw.from(female ? looks.femaleHair : looks.maleHair);
 }
 
 QJsonObject person(const NameRow &names, const PlaceRow &place, bool female, Draw draw, double now) {
     const Person drawn = drawPerson(draw, names, female);
-    QJsonObject json{{u"name"_s, fullName(drawn, names)}, {u"maiden_name"_s, drawn.mother}};
+    QJsonObject json{{u"name"_s, fullName(drawn, names)}, {u"maiden_name"_s, alone(drawn.mother)}};
     putAddress(json, draw, place);
     putBirth(json, draw, now);
     putMail(json, draw, drawn);
     json[u"useragent"_s] = draw.from(userAgents, u'|');
     json[u"company"_s] =
-        QString::fromUtf8(place.company).replace(u"{s}"_s, formOf(draw.from(names.surnames), false));
-    putBody(json, draw, female);
+        QString::fromUtf8(place.company).replace(u"{s}"_s, alone(formOf(draw.from(names.surnames), false)));
+    putBody(json, draw, looksOf(names), female);
     json[u"sport"_s] = draw.from(sports);
     return json;
 }
@@ -201,7 +226,9 @@ Reply Identities::answer(const Request &request) const {
     const NameRow *names = nameRow(nameSet, country);
     const PlaceRow *place = placeRow(country, nameSet);
     if (!names || !place) return notFoundPage();
-    const Draw draw(mix(seed_, request.path), quint64(request.now) / 2 * 2 + served_[request.path]++);
+    // Which half of the lists comes first is left to the time: otherwise each run began with the same one.
+    const auto served = served_.try_emplace(request.path, quint64(request.now) % 2).first;
+    const Draw draw(mix(seed_, request.path), quint64(request.now) / 2 * 2 + served->second++);
     const bool female = path[2] == u"female"_s;
     return {200, "application/json",
             QJsonDocument(person(*names, *place, female, draw, request.now)).toJson(QJsonDocument::Compact)};

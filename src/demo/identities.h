@@ -2,7 +2,9 @@
 
 #include "service.h"
 
-#include <QHash>
+#include <QString>
+
+#include <map>
 
 namespace orl::demo {
 
@@ -20,7 +22,7 @@ public:
 
 private:
     quint64 seed_;
-    mutable QHash<QString, quint64> served_; ///< answers so far by path
+    mutable std::map<QString, quint64> served_; ///< answers so far by path, from 0 or 1
 };
 
 } // namespace orl::demo

@@ -1,8 +1,14 @@
 #pragma once
 
 #include "ads/native_ad_view.h"
+#include "platform/qt/stored_consent.h"
 #include "screens/appearance.h"
 #include "screens/avatar_face.h"
+#include "screens/copy_view_model.h"
+#include "screens/custom_alert_view.h"
+#include "screens/generated_results_view.h"
+#include "screens/review_prompt.h"
+#include "screens/share_sheet.h"
 #include "screens/ssn_is_valid_alert_view.h"
 
 #include <memory>
@@ -20,7 +26,18 @@ class Gallery : public QObject {
     QML_UNCREATABLE("made by the application")
     Q_PROPERTY(orl::Appearance *appearance READ appearance CONSTANT)
     Q_PROPERTY(orl::KeyedListModel *genders READ genders CONSTANT)
+    Q_PROPERTY(orl::KeyedListModel *tabs READ tabs CONSTANT)
+    Q_PROPERTY(orl::KeyedListModel *numbers READ numbers CONSTANT)
+    Q_PROPERTY(orl::KeyedListModel *attachments READ attachments CONSTANT)
     Q_PROPERTY(orl::SSNIsValidAlertView *ssnAlert READ ssnAlert CONSTANT)
+    Q_PROPERTY(orl::CustomAlertView *limitAlert READ limitAlert CONSTANT)
+    Q_PROPERTY(orl::CustomAlertView *termsAlert READ termsAlert CONSTANT)
+    Q_PROPERTY(orl::GeneratedResultsView *results READ results CONSTANT)
+    Q_PROPERTY(orl::CopyViewModel *copyVM READ copyVM CONSTANT)
+    Q_PROPERTY(orl::ShareSheet *shareSheet READ shareSheet CONSTANT)
+    Q_PROPERTY(orl::ReviewPrompt *reviewPrompt READ reviewPrompt CONSTANT)
+    Q_PROPERTY(orl::StoredQuestion *tracking READ tracking CONSTANT)
+    Q_PROPERTY(orl::StoredQuestion *consent READ consent CONSTANT)
     Q_PROPERTY(orl::AvatarFace face READ face CONSTANT)
     Q_PROPERTY(QStringList nameSets READ nameSets CONSTANT)
     Q_PROPERTY(QVariantList ads READ ads CONSTANT)
@@ -32,17 +49,46 @@ public:
     Appearance *appearance() { return &appearance_; }
     KeyedListModel *genders() { return &genders_; }
     SSNIsValidAlertView *ssnAlert() { return &ssnAlert_; }
+    KeyedListModel *tabs() { return &tabs_; }
+    KeyedListModel *numbers() { return &numbers_; }
+    KeyedListModel *attachments() { return &attachments_; }
+    CustomAlertView *limitAlert() { return &limitAlert_; }
+    CustomAlertView *termsAlert() { return &termsAlert_; } ///< with everything that an alert can have
+    GeneratedResultsView *results() { return &results_; }
+    CopyViewModel *copyVM() { return &copyVM_; }
+    ShareSheet *shareSheet() { return &shareSheet_; }
+    ReviewPrompt *reviewPrompt() { return &reviewPrompt_; }
+    StoredQuestion *tracking() { return &tracking_; }
+    StoredQuestion *consent() { return &consent_; }
     AvatarFace face() const;
     QStringList nameSets() const;
     QVariantList ads() const; ///< native cards; nothing happens when one is tapped
 
     Q_INVOKABLE void chooseGender(int index);
+    Q_INVOKABLE void chooseTab(int index);
     Q_INVOKABLE void showSSN(); ///< puts a made-up result into the alert
+    Q_INVOKABLE void share();
+    Q_INVOKABLE void askForReview() { reviewPrompt_.requestReview(); }
+    Q_INVOKABLE void askForTracking();
+    Q_INVOKABLE void askForConsent();
 
 private:
+    void listCards();
+
     Appearance &appearance_;
     KeyedListModel genders_;
+    KeyedListModel tabs_;
+    KeyedListModel numbers_;
+    KeyedListModel attachments_;
     SSNIsValidAlertView ssnAlert_;
+    CustomAlertView limitAlert_;
+    CustomAlertView termsAlert_;
+    CopyViewModel copyVM_;
+    GeneratedResultsView results_;
+    ShareSheet shareSheet_;
+    ReviewPrompt reviewPrompt_;
+    StoredQuestion tracking_;
+    StoredQuestion consent_;
     std::vector<std::unique_ptr<NativeAdView>> ads_;
 };
 

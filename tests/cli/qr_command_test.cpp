@@ -56,7 +56,9 @@ QImage drawn(const QStringList &lines) {
 }
 
 const QStringList texts{QStringLiteral("x"), QStringLiteral("https://orl.example/?q=1&r=2"),
-                        QStringLiteral("Ünïcødé 日本語 🙂"), QString(500, QLatin1Char('a'))};
+                        QStringLiteral("Ünïcødé 日本語 🙂"), QString(500, QLatin1Char('a')),
+                        // A reader that guesses the encoding takes these for others.
+                        QStringLiteral("Grüße aus Köln"), QStringLiteral("こんにちは世界")};
 
 TEST(QrCommandTest, PictureReadsBack) {
     const QTemporaryDir folder;

@@ -148,7 +148,9 @@ bool isPhone(const char *pattern, const QString &text) {
 /// The first law of a person that is broken; empty for none.
 std::string brokenPersonLaw(const QJsonObject &json, QChar::Script nameScript) {
     if (!isWrittenIn(json[u"name"_s].toString(), nameScript)) return "script of the name";
-    if (!isWrittenIn(json[u"maiden_name"_s].toString(), nameScript)) return "script of the maiden name";
+    const QString maiden = json[u"maiden_name"_s].toString();
+    if (!isWrittenIn(maiden, nameScript)) return "script of the maiden name";
+    if (maiden[0] != maiden[0].toTitleCase()) return "capital of the maiden name";
     const QDate today = QDateTime::fromMSecsSinceEpoch(qint64(now * 1000), Qt::UTC).date();
     const QDate birth = QDate::fromString(json[u"birth_data"_s].toString(), u"yyyy-MM-dd"_s);
     if (!birth.isValid() || birth.addYears(18) > today || birth.addYears(80) < today) return "birthday";
@@ -256,6 +258,32 @@ TEST(IdentitiesTest, SurnamesFollowTheGender) {
             identityOf(host, u"/icelandic-iceland/female"_s)[u"name"_s].toString().endsWith(u"dóttir"_s));
         EXPECT_FALSE(identityOf(host, u"/english-canada/male"_s)[u"name"_s].toString().contains(u'/'));
     }
+}
+
+TEST(IdentitiesTest, HairAndEyesFitThePerson) {
+    const Identities host(5);
+    for (const char *nameSet : {"japanese", "nepali", "vietnamese", "arabic"}) {
+        for (int i = 0; i < 30; ++i) {
+            const QJsonObject json = identityOf(host, u"/%1-japan/female"_s.arg(QLatin1String(nameSet)));
+            EXPECT_TRUE(matches("black|dark brown", json[u"hair"_s].toString()))
+                << nameSet << ' ' << json[u"hair"_s].toString().toStdString();
+            EXPECT_FALSE(matches("Amber|Blue|Gray|Green", json[u"eye"_s].toString()))
+                << nameSet << ' ' << json[u"eye"_s].toString().toStdString();
+        }
+    }
+    for (int i = 0; i < 30; ++i)
+        EXPECT_NE(identityOf(host, u"/danish-denmark/female"_s)[u"hair"_s], u"Shaved"_s);
+}
+
+// A program that is started anew asks for its first person again.
+TEST(IdentitiesTest, FirstPersonsComeFromTheWholeOfTheLists) {
+    const QString path = u"/danish-denmark/male"_s;
+    QSet<QString> names;
+    for (int second = 0; second < 200; ++second) {
+        const Reply reply = Identities(6).answer({path, now + second});
+        names << QJsonDocument::fromJson(reply.body).object()[u"name"_s].toString().section(u' ', 0, 0);
+    }
+    EXPECT_EQ(names.size(), 8) << "of eight given names";
 }
 
 TEST(IdentitiesTest, UnknownAddressesHaveNoIdentity) {

@@ -138,15 +138,28 @@ TEST(TokeniserTest, ReadsAttributes) {
     });
 }
 
+// A long tag is told from a short one, a name of the page's own from a known one and from one in other letters,
+// and a tag's names from those of the long tag before it, where they stand elsewhere.
 TEST(TokeniserTest, FindsRepeatedAttributesAmongMany) {
-    std::string page = "<a", expected = "<a";
-    for (int i = 0; i < 5000; ++i)
-        page += " n" + std::to_string(i) + "=1";
-    for (int i = 0; i < 5000; i += 2)
-        page += " n" + std::to_string(i) + "=2";
-    for (int i = 0; i < 5000; ++i)
-        expected += " n" + std::to_string(i) + (i % 2 ? "=\"1\"" : "=\"2\"");
-    EXPECT_EQ(tokens(page + ">"), expected + ">");
+    for (const int count : {11, 12, 13, 5000}) {
+        SCOPED_TRACE(count);
+        std::string page, expected;
+        for (const int first : {0, 3}) {
+            page += "<a class=1 Class=1 viewBox=1";
+            expected += "<a class=\"3\" class=\"2\" viewbox=\"2\"";
+            for (int i = first; i < count; ++i)
+                page += " n" + std::to_string(i) + "=1 N" + std::to_string(i) + "=1";
+            for (int i = first; i < count; i += 2)
+                page += " n" + std::to_string(i) + "=2";
+            page += " class=2 Class=2 viewBox=2 class=3>";
+            for (int i = first; i < count; ++i) {
+                const std::string name = " n" + std::to_string(i);
+                expected += name + ((i - first) % 2 ? "=\"1\"" : "=\"2\"") + name + "=\"1\"";
+            }
+            expected += ">";
+        }
+        EXPECT_EQ(tokens(page), expected);
+    }
 }
 
 TEST(TokeniserTest, ResolvesReferences) {

@@ -8,6 +8,7 @@
 #include "looks.h"
 #include "resting.h"
 #include "screens/ad_images.h"
+#include "screens/sample_ads.h"
 #include "screens/screens.h"
 
 #include <QGuiApplication>
@@ -44,18 +45,10 @@ struct AdsLayoutTest : AdsTest, testing::WithParamInterface<Look> {
     }
 
     static AdAssets rich() {
-        return {.headline = QStringLiteral("Your city by bicycle"),
-                .body = QStringLiteral("Unlock one at any corner. The first half hour is on us."),
-                .callToAction = QStringLiteral("Ride"),
-                .advertiser = QStringLiteral("Harbour Bikes"),
-                .store = QStringLiteral("Phone store"),
-                .price = QStringLiteral("Free"),
-                .starRating = 4.5,
-                .icon = demo::adPicture(QStringLiteral("harbour"), QStringLiteral("icon")),
-                .media = {demo::adPicture(QStringLiteral("harbour"), QStringLiteral("film")),
-                          demo::filmFrames, std::chrono::milliseconds(5)}};
+        return richAd(demo::adPicture(QStringLiteral("harbour"), QStringLiteral("icon")),
+                      {demo::adPicture(QStringLiteral("harbour"), QStringLiteral("film")), demo::filmFrames,
+                       std::chrono::milliseconds(5)});
     }
-    static AdAssets poor() { return {.headline = QStringLiteral("Tomatoes on the ninth floor")}; }
 
     /// The item of this QML text; `view` is its state.
     void show(const QByteArray &qml, QObject *view) {
@@ -124,7 +117,7 @@ TEST_P(AdsLayoutTest, NativeCards) {
         engine.reset();
     }
     NativeAdCardView bare(*process, *appVM, {QStringLiteral("bare"), NativeAdType::IDENTITY_AFTER_BUTTON});
-    ads.natives.last()->receive(poor());
+    ads.natives.last()->receive(poorAd());
     phone.advance(std::chrono::milliseconds(500));
     show("NativeAdCard { objectName: \"subject\"; view: parent.view\n anchors.left: parent.left;"
          " anchors.right: parent.right; anchors.margins: Theme.margin }",

@@ -13,6 +13,7 @@
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QTest>
 
 #include <algorithm>
 #include <filesystem>
@@ -26,7 +27,7 @@ constexpr Look identityLooks[] = {
     {"narrow", 360, 640},
     {"narrow_dark_large_text", 360, 640, true, 2},
     {"right_to_left", 390, 844, false, 1, true},
-    {"wide", 900, 700},
+    {"wide", 1280, 800},
 };
 
 /// A window is looked at as a whole: what can be tapped has a name, a size for a thumb and lies within it.
@@ -68,11 +69,12 @@ protected:
         EXPECT_EQ(std::exchange(complaints, {}).join(u'\n').toStdString(), "");
     }
 
-    double buttonHeight(const QString &text) const {
-        for (const QQuickItem *item : window->findChildren<QQuickItem *>())
-            if (item->inherits("QQuickAbstractButton") && item->property("text") == text)
-                return item->height();
-        return -1;
+    QQuickItem &button(const char *text) const {
+        for (QQuickItem *item : window->findChildren<QQuickItem *>())
+            if (item->inherits("QQuickAbstractButton") && item->property("text") == QLatin1String(text))
+                return *item;
+        ADD_FAILURE() << "no button " << text;
+        return *window->contentItem();
     }
 
     FakeGeneratorView &view() { return *content->main()->fakeGenerator(); }
@@ -166,7 +168,7 @@ TEST_P(IdentityLayoutTest, Gallery) {
     auto *scroll = window->findChild<QQuickItem *>(QStringLiteral("gallery"));
     ASSERT_NE(scroll, nullptr);
     rest();
-    EXPECT_EQ(buttonHeight(QStringLiteral("Main, pressed")), buttonHeight(QStringLiteral("Main")))
+    EXPECT_EQ(button("Main, pressed").height(), button("Main").height())
         << "a text that fits into a line was laid out with two";
     const double most = scroll->property("contentHeight").toDouble() - window->height();
     ASSERT_GT(most, 1000);
@@ -175,6 +177,20 @@ TEST_P(IdentityLayoutTest, Gallery) {
         scroll->setProperty("contentY", std::min(at, most));
         look(QStringLiteral("gallery%1").arg(page++));
     }
+    const char *const questions[] = {
+        "Show a question", "Show an alert", "Show the limit alert", "Show an alert with everything",
+        "Ask for a name",  "Share",         "Ask for a review"};
+    for (const char *question : questions) {
+        QMetaObject::invokeMethod(&button(question), "clicked");
+        look(QString::fromLatin1(question));
+        QTest::keyClick(window, Qt::Key_Escape);
+    }
+    QMetaObject::invokeMethod(&button("Ask for tracking"), "clicked");
+    look(QStringLiteral("tracking"));
+    gallery.tracking()->answer(true);
+    QMetaObject::invokeMethod(&button("Ask for consent"), "clicked");
+    look(QStringLiteral("consent"));
+    gallery.consent()->answer(true);
     engine.reset(); // ahead of what it shows
 }
 

@@ -8,6 +8,7 @@
 #include "screens/full_screen_ad_view.h"
 #include "screens/full_swipe_pop_helper.h"
 #include "screens/review_prompt.h"
+#include "screens/sample_ads.h"
 #include "screens/screens.h"
 #include "screens_phone.h"
 
@@ -129,6 +130,12 @@ protected:
         orl::comeToRest(*window_->contentItem(), [this] { phone.settle(); });
     }
 
+    void checkWithinWindow(const QQuickItem &item, const std::string &who) {
+        const QRectF place = item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
+        EXPECT_GE(place.left(), -0.5) << who;
+        EXPECT_LE(place.right(), window_->width() + 0.5) << who;
+    }
+
 private:
     static constexpr int fastPng = 80; ///< of 100; less work for a larger file
 
@@ -171,12 +178,6 @@ private:
             << who;
     }
 
-    void checkWithinWindow(const QQuickItem &item, const std::string &who) {
-        const QRectF place = item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
-        EXPECT_GE(place.left(), -0.5) << who;
-        EXPECT_LE(place.right(), window_->width() + 0.5) << who;
-    }
-
     QtMessageHandler previous_ = nullptr;
     QPointingDevice *finger_ = nullptr;
     QPoint last_;
@@ -190,21 +191,13 @@ protected:
     QQuickWindow *window_ = nullptr;
 };
 
-AdAssets richAd() {
-    return {.headline = QStringLiteral("Your city by bicycle"),
-            .body = QStringLiteral("Unlock one at any corner. The first half hour is on us."),
-            .callToAction = QStringLiteral("Ride"),
-            .advertiser = QStringLiteral("Harbour Bikes"),
-            .store = QStringLiteral("Phone store"),
-            .price = QStringLiteral("Free"),
-            .starRating = 4.5,
-            .icon = demo::adPicture(QStringLiteral("harbour"), QStringLiteral("icon")),
-            .media = {demo::adPicture(QStringLiteral("harbour"), QStringLiteral("tall"))}};
+AdAssets rich() {
+    return richAd(demo::adPicture(QStringLiteral("harbour"), QStringLiteral("icon")),
+                  {demo::adPicture(QStringLiteral("harbour"), QStringLiteral("tall"))});
 }
 
-AdAssets poorAd() {
-    return {.headline = QStringLiteral("Tomatoes on the ninth floor"),
-            .icon = demo::adPicture(QStringLiteral("harbour"), QStringLiteral("icon"))};
+AdAssets poor() {
+    return poorAd(demo::adPicture(QStringLiteral("harbour"), QStringLiteral("icon")));
 }
 
 const QList<Sms> lively{
@@ -253,6 +246,9 @@ TEST_P(LayoutTest, Home) {
     look("recent");
     content->copyVM()->copy(QStringLiteral("482913"));
     look("copied");
+    const auto *banner = window_->findChild<QQuickItem *>(QStringLiteral("copied"));
+    ASSERT_NE(banner, nullptr);
+    checkWithinWindow(*banner, "what says so");
     phone.advance(std::chrono::seconds(2));
     content->home()->showSenders();
     look("senders");
@@ -423,9 +419,9 @@ TEST_P(LayoutTest, Ads) {
         for (int round = 0; round < 2; ++round) {
             comeToRest();
             for (auto *banner : ads.banners)
-                if (!banner->assets()) banner->receive(poorAd());
+                if (!banner->assets()) banner->receive(poor());
             for (auto *loader : std::exchange(ads.natives, {}))
-                loader->receive(richAd());
+                loader->receive(rich());
             phone.advance(std::chrono::milliseconds(500));
         }
     };
@@ -453,12 +449,12 @@ TEST_P(LayoutTest, Ads) {
     content->home()->closeCountries();
 
     stage_.setReady(true);
-    stage_.show({.assets = richAd(), .reward = std::chrono::seconds(15)});
+    stage_.show({.assets = rich(), .reward = std::chrono::seconds(15)});
     look("ads-rewarded");
     phone.advance(std::chrono::seconds(15));
     look("ads-reward-earned");
     stage_.close();
-    stage_.show({.assets = poorAd()});
+    stage_.show({.assets = poor()});
     look("ads-full-screen-poor");
     stage_.close();
     look("ads-gone");

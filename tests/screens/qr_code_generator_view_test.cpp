@@ -76,6 +76,7 @@ TEST(QRCodeGeneratorViewTest, DrawnTileReadsBackAtEverySize) {
         {"fraction of a point", QStringLiteral("https://orl.example/a?b=c"), 131.5, 1.25},
         {"dense screen", QStringLiteral("https://orl.example/a?b=c"), 96, 3},
         {"letters of other scripts", QStringLiteral("Ελένη 日本語 🙂"), 200, 1},
+        {"a few letters of another script", QStringLiteral("Ελένη"), 100, 1},
         {"long", QString(300, QLatin1Char('z')), 320, 2},
     };
     for (const Case &row : cases)

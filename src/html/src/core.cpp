@@ -194,6 +194,10 @@ Ref Arena::internName(std::string_view name) {
     return ref;
 }
 
+void Arena::expectName(std::string_view name) const {
+    if (names_.capacity) __builtin_prefetch(&names_.places[hashOf(name) & (names_.capacity - 1)], 1);
+}
+
 const TagRec *Arena::tag(std::string_view name) {
     if (const TagRec *known = knownTag(name)) return known;
     return dynamicTag(name, TagRec::unknown, nullptr);

@@ -408,6 +408,8 @@ public:
 
     /// The record of an attribute name, exactly as it is written.
     Ref internName(std::string_view name);
+    /// Fetches what `internName` will look at soon.
+    void expectName(std::string_view name) const;
     /// The record of a tag name, exactly as it is written; the same one for each use.
     const TagRec *tag(std::string_view name);
     /// The same tag, but closing itself, as an unknown tag does that was written with the mark for it.

@@ -131,6 +131,8 @@ struct alignas(16) NameRec {
     Ref lower; ///< the record of the name in lower case; its own if it is that
     std::uint32_t flags;
     std::uint32_t hash;
+    std::uint32_t place =
+        0; ///< for the tokeniser: where the last long tag with it had it; unused where static
 
     std::string_view name() const { return {text, length}; }
 };

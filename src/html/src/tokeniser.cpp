@@ -270,8 +270,8 @@ inline void Tokeniser::begin(Tag &tag) {
     tag.selfClosing = false;
     tag.attributes.clear();
     writtenNames_.clear();
-    if (!attributePlaces_.empty()) [[unlikely]]
-        attributePlaces_.clear();
+    writtenRefs_.clear();
+    lateCount_ = 0;
 }
 
 void Tokeniser::createTagPending(bool start) {
@@ -308,6 +308,7 @@ void Tokeniser::finishTagName() {
 void Tokeniser::emitTagPending() {
     finishTagName();
     newAttribute();
+    if (lateCount_) putLate();
     emit(*tagPending_);
 }
 
@@ -329,7 +330,7 @@ void Tokeniser::newAttribute() {
     hasEmptyAttributeValue_ = false;
     if (written.empty()) return;
     const char *const text = value.empty() ? "" : value.data();
-    putAttribute(written, nameOf(written), hasValue ? text : nullptr, value.size());
+    putAttribute(written, false, hasValue ? text : nullptr, value.size());
 }
 
 Ref Tokeniser::nameOf(std::string_view written) {
@@ -346,49 +347,56 @@ inline Ref Tokeniser::nameOfPlain(std::string_view written) {
 }
 
 /// A name that is written the same way a second time changes the value of the first, which keeps its place.
-inline void Tokeniser::putAttribute(std::string_view written, Ref name, const char *value,
+/// `plain` if the name is known to be lower-case ASCII of the page itself.
+inline void Tokeniser::putAttribute(std::string_view written, bool plain, const char *value,
                                     std::size_t length) {
     auto &attributes = tagPending_->attributes;
-    const AttrRec attribute{name, std::uint32_t(length), value};
-    const std::size_t place = placeOf(written, name);
-    if (place < attributes.size()) [[unlikely]] {
-        attributes[place] = attribute;
+    if (attributes.size() >= fewAttributes) [[unlikely]]
+        return putLater({written, value, length});
+    const AttrRec attribute{plain ? nameOfPlain(written) : nameOf(written), std::uint32_t(length), value};
+    for (std::size_t i = 0; i < attributes.size(); ++i) {
+        if (attributes[i].name != attribute.name || writtenNames_[i] != written) continue;
+        attributes[i] = attribute;
         return;
     }
     attributes.push_back(attribute);
     writtenNames_.push_back(written);
-    if (attributes.size() > fewAttributes) hashAttribute(attributes.size() - 1);
 }
 
-/// Where the pending tag has the attribute that is written so; the number of its attributes if it has not.
-inline std::size_t Tokeniser::placeOf(std::string_view written, Ref name) const {
-    const auto &attributes = tagPending_->attributes;
-    const auto isAt = [&](std::size_t i) {
-        return attributes[i].name == name && writtenNames_[i] == written;
-    };
-    if (attributes.size() <= fewAttributes) {
-        std::size_t i = 0;
-        while (i < attributes.size() && !isAt(i))
-            ++i;
-        return i;
-    }
-    const std::size_t mask = attributePlaces_.size() - 1;
-    for (std::size_t slot = hashOf(written) & mask; attributePlaces_[slot]; slot = (slot + 1) & mask)
-        if (isAt(attributePlaces_[slot] - 1)) return attributePlaces_[slot] - 1;
-    return attributes.size();
+/// The names of a tag that has very many lie all over the memory. Each is asked for some attributes before it
+/// is needed, so that they come at once and not one after another.
+void Tokeniser::putLater(const Late &attribute) {
+    arena_.expectName(attribute.written);
+    late_[lateCount_++] = attribute;
+    if (lateCount_ == late_.size()) putLate();
 }
 
-/// Enters one more attribute into the table, which is kept at most half full.
-void Tokeniser::hashAttribute(std::size_t place) {
-    const bool rebuild = 2 * (place + 1) > attributePlaces_.size();
-    if (rebuild) attributePlaces_.assign(std::max<std::size_t>(64, 2 * attributePlaces_.size()), 0);
-    const std::size_t mask = attributePlaces_.size() - 1;
-    for (std::size_t i = rebuild ? 0 : place; i <= place; ++i) {
-        std::size_t slot = hashOf(writtenNames_[i]) & mask;
-        while (attributePlaces_[slot])
-            slot = (slot + 1) & mask;
-        attributePlaces_[slot] = std::uint32_t(i + 1);
+void Tokeniser::putLate() {
+    auto &attributes = tagPending_->attributes;
+    for (std::size_t i = writtenRefs_.size(); i < fewAttributes; ++i)
+        placeOf(arena_.internName(writtenNames_[i]));
+    for (std::size_t i = 0; i < lateCount_; ++i) {
+        const Ref written = arena_.internName(late_[i].written);
+        const Ref name = settings_.preserveAttributeCase() ? written : at<NameRec>(written)->lower;
+        const AttrRec attribute{name, std::uint32_t(late_[i].length), late_[i].value};
+        if (const std::size_t place = placeOf(written); place < attributes.size())
+            attributes[place] = attribute;
+        else
+            attributes.push_back(attribute);
     }
+    lateCount_ = 0;
+}
+
+/// Where the pending tag has the attribute that is written so, which becomes its last if it is new. Each name
+/// remembers where it stood in the long tag that had it last, and the list of this tag tells whether it is
+/// that tag: nothing has to be searched or forgotten.
+std::size_t Tokeniser::placeOf(Ref written) {
+    std::uint32_t &place = isStatic(written) ? knownPlaces_[(written - firstName) / (sizeof(NameRec) / 16)]
+                                             : at<NameRec>(written)->place;
+    if (place < writtenRefs_.size() && writtenRefs_[place] == written) return place;
+    place = std::uint32_t(writtenRefs_.size());
+    writtenRefs_.push_back(written);
+    return place;
 }
 
 /// A quoted value with its references resolved, as the arena keeps it; the text itself where none is.
@@ -461,7 +469,7 @@ inline const char *Tokeniser::readAttribute(const char *p) {
     } else if (*p != '>' && *p != '/') {
         return nullptr;
     }
-    putAttribute(written, plain ? nameOfPlain(written) : nameOf(written), value.data(), value.size());
+    putAttribute(written, plain, value.data(), value.size());
     return p;
 }
 
@@ -475,6 +483,8 @@ bool Tokeniser::readAttributes() {
         const bool selfClosing = *p == '/' && p[1] == '>';
         if (*p == '>' || selfClosing) {
             if (selfClosing) tagPending_->selfClosing = true;
+            if (lateCount_) [[unlikely]]
+                putLate();
             reader_.moveTo(p + 1 + selfClosing);
             state_ = State::Data;
             if (tagPending_ == &startPending_)

@@ -191,11 +191,18 @@ private:
     void finishTagName();
     void emitTagPending();
     void newAttribute();
-    void putAttribute(std::string_view written, Ref name, const char *value, std::size_t length);
+    /// An attribute of a tag that has many already.
+    struct Late {
+        std::string_view written;
+        const char *value;
+        std::size_t length;
+    };
+    void putAttribute(std::string_view written, bool plain, const char *value, std::size_t length);
+    void putLater(const Late &attribute);
+    void putLate();
+    std::size_t placeOf(Ref written);
     Ref nameOf(std::string_view written);
     Ref nameOfPlain(std::string_view written);
-    std::size_t placeOf(std::string_view written, Ref name) const;
-    void hashAttribute(std::size_t place);
     template<class Tag>
     bool readTag(Tag &tag, const char *name);
     template<class Tag>
@@ -302,9 +309,13 @@ private:
 
     std::string_view lastStartTag_; ///< in lower case; empty before the first
 
-    Pile<std::string_view> writtenNames_; ///< of the pending tag's attributes, as the page has them
-    std::vector<std::uint32_t, LargeBuffers<std::uint32_t>>
-        attributePlaces_; ///< hash table over them; empty while they are few
+    // The names of the pending tag's attributes as the page has them: those of the first few as text and,
+    // once there are more, all as records.
+    Pile<std::string_view> writtenNames_;
+    Pile<Ref> writtenRefs_;
+    std::array<std::uint32_t, maxKnownNames> knownPlaces_ = {}; ///< `NameRec::place` of static names
+    std::array<Late, 16> late_;
+    std::size_t lateCount_ = 0;
     std::vector<SearchAhead> searches_;
 };
 

@@ -5,7 +5,9 @@ import Orl.Screens
 // Who the chat is with, and the way back.
 Rectangle {
     id: root
-    required property ConversationView view
+    required property string name
+    required property avatarFace face
+    signal backTapped
 
     implicitHeight: row.implicitHeight + 2 * Theme.space2
     color: Theme.bar
@@ -23,17 +25,17 @@ Rectangle {
             symbol: "chevron-left"
             mirrorsWithLayout: true
             text: "Back"
-            onClicked: root.view.back()
+            onClicked: root.backTapped()
         }
         Avatar {
-            visible: root.view.name !== ""
-            face: root.view.face
+            visible: root.name !== ""
+            face: root.face
         }
         ColumnLayout {
-            visible: root.view.name !== ""
+            visible: root.name !== ""
             spacing: 0
             Words {
-                text: root.view.name
+                text: root.name
                 font.pixelSize: Theme.rowSize
                 font.weight: Font.DemiBold
                 elide: Text.ElideRight

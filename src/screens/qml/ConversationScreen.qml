@@ -12,8 +12,10 @@ FocusScope {
     ConversationBar {
         id: bar
         width: parent.width
-        view: root.view
+        name: root.view.name
+        face: root.view.face
         z: 1
+        onBackTapped: root.view.back()
     }
     ListView {
         id: list

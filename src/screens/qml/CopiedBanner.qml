@@ -1,19 +1,18 @@
 import QtQuick
 import QtQuick.Layouts
-import Orl.Screens
 
-// Says that something was copied, above all screens.
+// Says that something was copied, above all screens. On a narrow one, give it less than its implicit width.
 Rectangle {
     id: root
-    required property CopyViewModel copyVM
+    required property bool copied
 
     implicitWidth: row.implicitWidth + 2 * Theme.space5
     implicitHeight: row.implicitHeight + 2 * Theme.space4
     radius: Theme.cardRadius
     color: Theme.text
-    opacity: copyVM.copied ? 1 : 0
+    opacity: copied ? 1 : 0
     visible: opacity > 0
-    scale: copyVM.copied || Theme.reducedMotion ? 1 : 0.9
+    scale: copied || Theme.reducedMotion ? 1 : 0.9
     Accessible.role: Accessible.AlertMessage
     Accessible.name: "Copied to clipboard!"
 
@@ -22,7 +21,10 @@ Rectangle {
 
     RowLayout {
         id: row
-        anchors.centerIn: parent
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        anchors.margins: Theme.space5
         spacing: Theme.space3
         Symbol {
             name: "patch-check-fill"
@@ -32,6 +34,7 @@ Rectangle {
             text: "Copied to clipboard!"
             color: Theme.background
             font.weight: Font.DemiBold
+            Layout.fillWidth: true
             Accessible.ignored: true
         }
     }

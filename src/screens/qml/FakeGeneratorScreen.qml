@@ -75,7 +75,14 @@ FocusScope {
             GenerateBar {
                 width: parent.width
                 visible: !root.view.nativeWithButton.showNativeBeforeGenerate
-                view: root.view
+                hasIdentity: root.view.hasIdentity
+                hasSaved: root.view.hasSavedIdentities
+                canSave: root.view.showSaveButton
+                busy: root.view.disableGenerating
+                title: root.view.generateButtonTitle
+                onSavedTapped: root.view.openSaved()
+                onGenerateTapped: root.view.tapGenerate()
+                onSaveTapped: root.view.openSaveDialog()
             }
             NativeAdSlot {
                 width: parent.width
@@ -86,7 +93,16 @@ FocusScope {
     }
     Component {
         id: options
-        GenerateOptions { view: root.view }
+        GenerateOptions {
+            genders: root.view.genders
+            nameSets: root.view.nameSets
+            nameSetIndex: root.view.nameSetIndex
+            countries: root.view.countries
+            countryIndex: root.view.countryIndex
+            onGenderChosen: index => root.view.chooseGender(index)
+            onNameSetChosen: index => root.view.chooseNameSet(index)
+            onCountryChosen: index => root.view.chooseCountry(index)
+        }
     }
     Component {
         id: results
@@ -105,7 +121,13 @@ FocusScope {
         source: "SavedIdentitiesScreen.qml"
         view: root.view
     }
-    SaveIdentityAlert { view: root.view }
+    SaveIdentityAlert {
+        shown: root.view.saveDialog
+        name: root.view.saveNameText
+        onNameEdited: text => root.view.saveNameText = text
+        onSaveTapped: root.view.save()
+        onCancelTapped: root.view.cancelSave()
+    }
     SavedCheckMark { playing: root.view.savedCheckMarkAnimation }
     SSNIsValidAlert { alert: root.view.ssnAlert }
 }

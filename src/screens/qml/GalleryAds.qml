@@ -24,8 +24,7 @@ ColumnLayout {
                 Layout.fillWidth: true
                 NativeAdLayout {
                     id: card
-                    // Never as narrow as before the page is laid out: lines that break then keep their height.
-                    width: Math.max(parent.width, Theme.leastWidth - 2 * Theme.margin)
+                    width: parent.width
                     view: place.modelData
                 }
             }
@@ -34,6 +33,9 @@ ColumnLayout {
     GallerySection {
         title: "Beside ads"
         Layout.fillWidth: true
+        AdStrip { face: root.gallery.ads[0].face; Layout.fillWidth: true }
+        AdStrip { face: root.gallery.ads[1].face; Layout.fillWidth: true }
+        AdStrip { face: root.gallery.ads[0].face; inlined: true; Layout.fillWidth: true; Layout.preferredHeight: 240 }
         RowLayout {
             spacing: Theme.space5
             AdChip {}

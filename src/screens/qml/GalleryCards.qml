@@ -13,13 +13,36 @@ ColumnLayout {
     GallerySection {
         title: "Numbers"
         Layout.fillWidth: true
+        PhoneCard {
+            countryName: "Norway"
+            flag: "no"
+            number: "+47 000 01 234"
+            light: root.gallery.face.light
+            dark: root.gallery.face.dark
+            veil: root.gallery.face.veil
+            ink: root.gallery.face.ink
+            Layout.fillWidth: true
+        }
+        StackSelector { bySender: false }
+        StackSelector { bySender: true }
+        SectionHeader { section: "Europe"; Layout.fillWidth: true }
         CountryCard { name: "Norway"; prefix: "+47"; flag: "no"; Layout.fillWidth: true }
         NumberCard { number: "+47 000 01 234"; bars: 4; flag: "no"; Layout.fillWidth: true }
         HistoryCard { flag: "no"; number: "+47 000 01 234"; country: "Norway"; time: "yesterday"; Layout.fillWidth: true }
     }
+    Item {
+        implicitHeight: similar.implicitHeight
+        Layout.fillWidth: true
+        SimilarNumbers { id: similar; width: parent.width; numbers: root.gallery.numbers }
+    }
     GallerySection {
         title: "Messages"
         Layout.fillWidth: true
+        HomeState { shown: HomeView.Loading; nothingYet: false; Layout.fillWidth: true }
+        HomeState { shown: HomeView.Loading; nothingYet: true; Layout.fillWidth: true }
+        HomeState { shown: HomeView.Offline; nothingYet: false; Layout.fillWidth: true }
+        ConversationBar { name: "Harbourly Pay"; face: root.gallery.face; Layout.fillWidth: true }
+        ConversationBar { name: ""; face: root.gallery.face; Layout.fillWidth: true }
         Item {
             implicitHeight: message.implicitHeight
             Layout.fillWidth: true

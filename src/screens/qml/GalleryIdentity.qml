@@ -13,6 +13,30 @@ ColumnLayout {
     Layout.fillWidth: true
 
     GallerySection {
+        title: "Choices of an identity"
+        Layout.fillWidth: true
+        GenerateOptions {
+            id: options
+            genders: root.gallery.genders
+            nameSets: root.gallery.nameSets
+            nameSetIndex: 0
+            countries: ["Cyrillic, Serbia - Ћирилица, српски", "Latin, Serbia - Latin, Srbija"]
+            countryIndex: 0
+            onGenderChosen: index => root.gallery.chooseGender(index)
+            onNameSetChosen: index => options.nameSetIndex = index
+            onCountryChosen: index => options.countryIndex = index
+            Layout.fillWidth: true
+        }
+        GenerateBar { hasIdentity: false; hasSaved: false; canSave: false; busy: false; title: "Generate"; Layout.fillWidth: true }
+        GenerateBar { hasIdentity: true; hasSaved: false; canSave: false; busy: true; title: ""; Layout.fillWidth: true }
+        GenerateBar { hasIdentity: true; hasSaved: true; canSave: true; busy: false; title: ""; Layout.fillWidth: true }
+    }
+    GeneratedResults {
+        view: root.gallery.results
+        Layout.fillWidth: true
+        Layout.topMargin: Theme.space5
+    }
+    GallerySection {
         title: "Identity"
         Layout.fillWidth: true
         CopyLine { name: "Full name"; content: "Élise Bérard"; large: true; Layout.fillWidth: true }

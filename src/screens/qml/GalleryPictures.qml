@@ -27,6 +27,23 @@ ColumnLayout {
         }
     }
     GallerySection {
+        title: "Bars"
+        Layout.fillWidth: true
+        TopBar { title: "A screen over another one"; Layout.fillWidth: true }
+        TopBar { title: "Norway"; flag: "no"; Layout.fillWidth: true }
+        TabBar {
+            id: tabs
+            tabs: root.gallery.tabs
+            selectedIndex: 1
+            Layout.fillWidth: true
+            onSelected: index => {
+                root.gallery.chooseTab(index);
+                tabs.selectedIndex = index;
+            }
+        }
+        CopiedBanner { copied: true; Layout.fillWidth: true; Layout.maximumWidth: implicitWidth; Layout.alignment: Qt.AlignHCenter }
+    }
+    GallerySection {
         title: "Waiting"
         Layout.fillWidth: true
         Flow {

@@ -32,7 +32,14 @@ ColumnLayout {
         }
         QuietButton { text: "Show a question"; filled: true; Layout.fillWidth: true; onClicked: question.open() }
         QuietButton { text: "Show an alert"; filled: true; Layout.fillWidth: true; onClicked: alert.open() }
+        QuietButton { text: "Show the limit alert"; filled: true; Layout.fillWidth: true; onClicked: limit.open() }
+        QuietButton { text: "Show an alert with everything"; filled: true; Layout.fillWidth: true; onClicked: terms.open() }
         QuietButton { text: "Show the SSN card"; filled: true; Layout.fillWidth: true; onClicked: root.gallery.showSSN() }
+        QuietButton { text: "Ask for a name"; filled: true; Layout.fillWidth: true; onClicked: nameAlert.shown = true }
+        QuietButton { text: "Share"; filled: true; Layout.fillWidth: true; onClicked: root.gallery.share() }
+        QuietButton { text: "Ask for a review"; filled: true; Layout.fillWidth: true; onClicked: root.gallery.askForReview() }
+        QuietButton { text: "Ask for tracking"; filled: true; Layout.fillWidth: true; onClicked: root.gallery.askForTracking() }
+        QuietButton { text: "Ask for consent"; filled: true; Layout.fillWidth: true; onClicked: root.gallery.askForConsent() }
     }
     Sheet {
         id: question
@@ -49,5 +56,50 @@ ColumnLayout {
         message: "Please check your internet and try again"
         yes: "OK"
         onAccepted: close()
+    }
+    CustomAlert { id: limit; alert: root.gallery.limitAlert }
+    CustomAlert { id: terms; alert: root.gallery.termsAlert }
+    Connections {
+        target: root.gallery.limitAlert
+        function onTapped() { limit.close(); }
+        function onCancel() { limit.close(); }
+    }
+    Connections {
+        target: root.gallery.termsAlert
+        function onTapped() { terms.close(); }
+        function onCancel() { terms.close(); }
+    }
+    SaveIdentityAlert {
+        id: nameAlert
+        shown: false
+        name: ""
+        onNameEdited: text => name = text
+        onSaveTapped: {
+            shown = name === "";
+            saved.playing = !shown;
+        }
+        onCancelTapped: shown = false
+    }
+    Loader {
+        active: root.gallery.shareSheet.isPresented
+        sourceComponent: ShareSheetDialog { sheet: root.gallery.shareSheet }
+    }
+    Loader {
+        active: root.gallery.reviewPrompt.isPresented
+        sourceComponent: ReviewSheet { prompt: root.gallery.reviewPrompt }
+    }
+    Loader {
+        active: root.gallery.tracking.isAsked
+        sourceComponent: TrackingSheet { question: root.gallery.tracking; displayName: "Orl" }
+    }
+    Loader {
+        active: root.gallery.consent.isAsked
+        sourceComponent: ConsentSheet { question: root.gallery.consent }
+    }
+    Item {
+        implicitHeight: 2 * Theme.appIcon
+        Layout.fillWidth: true
+        Layout.bottomMargin: Theme.space5
+        SavedCheckMark { id: saved; playing: true }
     }
 }

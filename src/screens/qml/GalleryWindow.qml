@@ -34,7 +34,8 @@ T.ApplicationWindow {
         ColumnLayout {
             id: page
             anchors.horizontalCenter: parent.horizontalCenter
-            width: Math.min(parent.width, Theme.columnWidth) - 2 * Theme.margin
+            // Never as narrow as before the window is laid out: lines that break then keep their height.
+            width: Math.min(Math.max(parent.width, Theme.leastWidth), Theme.columnWidth) - 2 * Theme.margin
             spacing: 0
 
             GalleryButtons { gallery: root.gallery }

@@ -1,35 +1,41 @@
 import QtQuick
 import QtQuick.Layouts
-import Orl.Screens
 
 // The button under the thumb, and beside it, once there is an identity, what can be done with that.
 RowLayout {
     id: root
-    required property FakeGeneratorView view
+    required property bool hasIdentity
+    required property bool hasSaved ///< identities, of before
+    required property bool canSave
+    required property bool busy
+    required property string title ///< of the button
+    signal savedTapped
+    signal generateTapped
+    signal saveTapped
 
     spacing: Theme.space2
 
     RoundButton {
         objectName: "history_button_id"
-        visible: root.view.hasIdentity
-        enabled: root.view.hasSavedIdentities
+        visible: root.hasIdentity
+        enabled: root.hasSaved
         symbol: "checkmark"
         text: "Saved identities"
-        onClicked: root.view.openSaved()
+        onClicked: root.savedTapped()
     }
     GenerateButton {
-        hasIdentity: root.view.hasIdentity
-        busy: root.view.disableGenerating
-        title: root.view.generateButtonTitle
+        hasIdentity: root.hasIdentity
+        busy: root.busy
+        title: root.title
         focus: true
         Layout.fillWidth: true
-        onClicked: root.view.tapGenerate()
+        onClicked: root.generateTapped()
     }
     RoundButton {
         objectName: "save_button_id"
-        visible: root.view.hasIdentity && root.view.showSaveButton
+        visible: root.hasIdentity && root.canSave
         symbol: "plus"
         text: "Save this identity"
-        onClicked: root.view.openSaveDialog()
+        onClicked: root.saveTapped()
     }
 }

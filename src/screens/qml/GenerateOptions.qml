@@ -7,7 +7,14 @@ import Orl.Screens
 // What kind of identity is wanted, as one card.
 ColumnLayout {
     id: root
-    required property FakeGeneratorView view
+    required property KeyedListModel genders
+    required property var nameSets ///< texts
+    required property int nameSetIndex
+    required property var countries
+    required property int countryIndex
+    signal genderChosen(int index)
+    signal nameSetChosen(int index)
+    signal countryChosen(int index)
 
     spacing: Theme.space4
 
@@ -37,21 +44,21 @@ ColumnLayout {
             }
             SegmentedPicker {
                 name: "Gender"
-                options: root.view.genders
-                onChosen: index => root.view.chooseGender(index)
+                options: root.genders
+                onChosen: index => root.genderChosen(index)
                 Layout.fillWidth: true
             }
             PickerRow {
                 name: "Name Set"
-                value: root.view.nameSets[root.view.nameSetIndex] ?? ""
+                value: root.nameSets[root.nameSetIndex] ?? ""
                 Layout.fillWidth: true
-                onClicked: sheet.pick("Name Set", root.view.nameSets, root.view.nameSetIndex, index => root.view.chooseNameSet(index))
+                onClicked: sheet.pick("Name Set", root.nameSets, root.nameSetIndex, index => root.nameSetChosen(index))
             }
             PickerRow {
                 name: "Country"
-                value: root.view.countries[root.view.countryIndex] ?? ""
+                value: root.countries[root.countryIndex] ?? ""
                 Layout.fillWidth: true
-                onClicked: sheet.pick("Country", root.view.countries, root.view.countryIndex, index => root.view.chooseCountry(index))
+                onClicked: sheet.pick("Country", root.countries, root.countryIndex, index => root.countryChosen(index))
             }
         }
     }

@@ -10,16 +10,28 @@ ColumnLayout {
     spacing: Theme.space3
 
     PhoneCard {
-        view: root.view
+        countryName: root.view.countryName
+        flag: root.view.flag
+        number: root.view.number
+        light: root.view.cardLight
+        dark: root.view.cardDark
+        veil: root.view.cardVeil
+        ink: root.view.cardInk
         Layout.fillWidth: true
         Layout.topMargin: Theme.margin
+        onClicked: root.view.copyNumber()
+        onChangeTapped: root.view.openCountries()
     }
     GridLayout {
         columns: Theme.large ? 1 : 2
         rowSpacing: 0
         Layout.fillWidth: true
         Layout.bottomMargin: Theme.space3
-        StackSelector { view: root.view }
+        StackSelector {
+            bySender: root.view.bySender
+            onRecentTapped: root.view.showRecent()
+            onSendersTapped: root.view.showSenders()
+        }
         QuietButton {
             text: root.view.allowManualRefresh ? "Updated " + root.view.fetchAge : ""
             symbol: "arrow-clockwise"

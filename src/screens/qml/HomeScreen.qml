@@ -97,11 +97,14 @@ Item {
             Keys.onDownPressed: event => event.accepted = true
             HomeState {
                 width: parent.width
-                view: root.view
+                shown: root.view.state
+                nothingYet: root.view.nothingYet
+                onRetried: root.view.retry()
             }
             SimilarNumbers {
                 width: parent.width
-                view: root.view
+                numbers: root.view.similar
+                onTapped: index => root.view.tapSimilar(index)
             }
         }
         // Without transitions: a row that grows while it is in one is laid over by the next.

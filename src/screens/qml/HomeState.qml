@@ -4,24 +4,26 @@ import Orl.Screens
 // What stands in place of the messages while there are none.
 Item {
     id: root
-    required property HomeView view
+    required property int shown ///< a state of HomeView
+    required property bool nothingYet
+    signal retried
 
     implicitHeight: offline.visible ? offline.implicitHeight : loading.implicitHeight
-    visible: view.state !== HomeView.Messages
+    visible: shown !== HomeView.Messages
 
     NoInternet {
         id: offline
         width: parent.width
         compact: true
-        visible: root.view.state === HomeView.Offline
-        onActed: root.view.retry()
+        visible: root.shown === HomeView.Offline
+        onActed: root.retried()
     }
     StateMessage {
         id: loading
         width: parent.width
-        visible: root.view.state === HomeView.Loading
+        visible: root.shown === HomeView.Loading
         typing: true
-        title: root.view.nothingYet ? "No messages yet" : ""
-        sentence: root.view.nothingYet ? "A new message appears here by itself." : "Fetching messages..."
+        title: root.nothingYet ? "No messages yet" : ""
+        sentence: root.nothingYet ? "A new message appears here by itself." : "Fetching messages..."
     }
 }

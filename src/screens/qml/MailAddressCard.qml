@@ -1,11 +1,11 @@
 import QtQuick
 import QtQuick.Layouts
-import Orl.Screens
 
 // The address of the inbox. The whole card copies it.
 ColumnLayout {
     id: root
-    required property TMailView view
+    required property string address
+    signal tapped
 
     spacing: Theme.space2
 
@@ -18,13 +18,13 @@ ColumnLayout {
     }
     Pressable {
         id: card
-        text: "Copy address " + root.view.shownAddress
+        text: "Copy address " + root.address
         padding: Theme.space4
         cornerRadius: Theme.cardRadius
         Layout.fillWidth: true
         Layout.bottomMargin: Theme.space3
         Accessible.description: "Tap to copy"
-        onClicked: root.view.copyAddress()
+        onClicked: root.tapped()
         background: Card { down: card.down }
         contentItem: RowLayout {
             spacing: Theme.space3
@@ -37,7 +37,7 @@ ColumnLayout {
             ColumnLayout {
                 spacing: Theme.space1
                 Words {
-                    text: root.view.shownAddress.replace("@", "@\u200B") // breaks there first
+                    text: root.address.replace("@", "@\u200B") // breaks there first
                     font.pixelSize: Theme.headingSize
                     font.weight: Font.Bold
                     maximumLineCount: 3

@@ -7,22 +7,24 @@ import Orl.Screens
 // The files of a mail, and below them the picture that was tapped last.
 ColumnLayout {
     id: root
-    required property MailDetailsView view
+    required property KeyedListModel attachments
+    required property string pictureLink
+    signal tapped(int index)
 
     spacing: Theme.space2
 
     Repeater {
         id: files
-        model: root.view.attachments
+        model: root.attachments
         MailAttachmentCard {
             required property int index
             Layout.fillWidth: true
-            onClicked: root.view.tapAttachment(index)
+            onClicked: root.tapped(index)
         }
     }
     MailPictureView {
-        visible: root.view.imageToShowLink !== ""
-        link: root.view.imageToShowLink
+        visible: root.pictureLink !== ""
+        link: root.pictureLink
         Layout.fillWidth: true
     }
 }

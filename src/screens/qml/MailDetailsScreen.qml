@@ -31,14 +31,20 @@ FocusScope {
             spacing: Theme.space2
 
             MailHeader {
-                view: root.view
+                sender: root.view.sender
+                senderAddress: root.view.senderAddress
+                time: root.view.time
+                subject: root.view.subject
                 Layout.fillWidth: true
                 Layout.leftMargin: Theme.margin
                 Layout.rightMargin: Theme.margin
                 Layout.topMargin: Theme.space3
             }
             MailPrivacyRow {
-                view: root.view
+                on: root.view.isPrivate
+                withheldPictures: root.view.withheldPictures
+                onToggled: root.view.togglePrivate()
+                onPicturesWanted: root.view.showPictures()
                 Layout.fillWidth: true
                 Layout.leftMargin: Theme.margin
                 Layout.rightMargin: Theme.margin
@@ -130,7 +136,9 @@ FocusScope {
                 }
             }
             MailAttachments {
-                view: root.view
+                attachments: root.view.attachments
+                pictureLink: root.view.imageToShowLink
+                onTapped: index => root.view.tapAttachment(index)
                 Layout.fillWidth: true
                 Layout.leftMargin: Theme.margin
                 Layout.rightMargin: Theme.margin

@@ -1,11 +1,13 @@
 import QtQuick
 import QtQuick.Layouts
-import Orl.Screens
 
 // Who wrote a mail, when and what about.
 ColumnLayout {
     id: root
-    required property MailDetailsView view
+    required property string sender
+    required property string senderAddress
+    required property string time
+    required property string subject
 
     spacing: Theme.space2
 
@@ -19,7 +21,7 @@ ColumnLayout {
         ColumnLayout {
             spacing: 0
             Words {
-                text: root.view.sender
+                text: root.sender
                 font.pixelSize: Theme.rowSize
                 font.weight: Font.DemiBold
                 maximumLineCount: 2
@@ -27,17 +29,17 @@ ColumnLayout {
                 Layout.fillWidth: true
             }
             Words {
-                text: root.view.senderAddress.replace("@", "@\u200B") // breaks there first
+                text: root.senderAddress.replace("@", "@\u200B") // breaks there first
                 color: Theme.secondary
                 font.pixelSize: Theme.secondarySize
                 maximumLineCount: 3
                 elide: Text.ElideRight
                 Layout.fillWidth: true
-                Accessible.name: root.view.senderAddress
+                Accessible.name: root.senderAddress
             }
         }
         Words {
-            text: root.view.time
+            text: root.time
             color: Theme.secondary
             font.pixelSize: Theme.secondarySize
             wrapMode: Text.NoWrap
@@ -56,7 +58,7 @@ ColumnLayout {
         Layout.fillWidth: true
     }
     Words {
-        text: root.view.subject
+        text: root.subject
         maximumLineCount: 4
         elide: Text.ElideRight
         Layout.fillWidth: true

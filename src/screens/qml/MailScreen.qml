@@ -87,7 +87,8 @@ FocusScope {
             model: root.view.mails
             header: MailAddressCard {
                 width: list.width
-                view: root.view
+                address: root.view.shownAddress
+                onTapped: root.view.copyAddress()
                 onHeightChanged: settle.restart()
             }
             footer: Column {

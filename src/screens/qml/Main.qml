@@ -66,8 +66,10 @@ T.ApplicationWindow {
         function onFrameSwapped() { ahead.active = true; }
     }
     CopiedBanner {
+        objectName: "copied"
         anchors.centerIn: parent
-        copyVM: root.content.copyVM
+        width: Math.min(implicitWidth, parent.width - 2 * Theme.margin)
+        copied: root.content.copyVM.copied
         z: 1
     }
     Late {

@@ -5,26 +5,32 @@ import Orl.Screens
 // The current number. The whole card copies it; its one other button changes it.
 Pressable {
     id: root
-    required property HomeView view
+    required property string countryName
+    required property string flag
+    required property string number
+    required property color light
+    required property color dark
+    required property color veil ///< over the two, so that the ink can be read
+    required property color ink
+    signal changeTapped
 
-    text: "Copy number " + view.number
+    text: "Copy number " + number
     cornerRadius: Theme.cardRadius
     padding: Theme.space4
     topPadding: Theme.space2
-    Accessible.description: view.countryName + ". Tap to copy!"
-    onClicked: view.copyNumber()
+    Accessible.description: countryName + ". Tap to copy!"
 
     background: Rectangle {
         radius: Theme.cardRadius
         gradient: Gradient {
             orientation: Gradient.Horizontal
-            GradientStop { position: 0; color: root.view.cardLight }
-            GradientStop { position: 1; color: root.view.cardDark }
+            GradientStop { position: 0; color: root.light }
+            GradientStop { position: 1; color: root.dark }
         }
         Rectangle {
             anchors.fill: parent
             radius: Theme.cardRadius
-            color: root.view.cardVeil
+            color: root.veil
         }
     }
     contentItem: ColumnLayout {
@@ -35,10 +41,10 @@ Pressable {
             columns: Theme.large && oneRow > root.availableWidth ? 2 : 3
             columnSpacing: Theme.space2
             rowSpacing: 0
-            Flag { code: root.view.flag }
+            Flag { code: root.flag }
             Words {
-                text: root.view.countryName
-                color: root.view.cardInk
+                text: root.countryName
+                color: root.ink
                 font.pixelSize: Theme.rowSize
                 font.weight: Font.DemiBold
                 Layout.fillWidth: true
@@ -48,14 +54,14 @@ Pressable {
                 filled: true
                 Layout.columnSpan: (parent as GridLayout).columns === 2 ? 2 : 1
                 text: "change"
-                ink: root.view.cardInk
+                ink: root.ink
                 Accessible.name: "Change number"
-                onClicked: root.view.openCountries()
+                onClicked: root.changeTapped()
             }
         }
         Words {
-            text: root.view.number
-            color: root.view.cardInk
+            text: root.number
+            color: root.ink
             // Large text: as large as it fits anyway, without the height of a size that does not.
             font.pixelSize: Theme.large ? Theme.headingSize : Theme.titleSize * 1.15
             font.weight: Font.Bold
@@ -68,7 +74,7 @@ Pressable {
         }
         Words {
             text: "Tap to copy!"
-            color: root.view.cardInk
+            color: root.ink
             font.pixelSize: Theme.large ? Theme.secondarySize : Theme.textSize
             Layout.fillWidth: true
             Accessible.ignored: true
@@ -78,12 +84,12 @@ Pressable {
             Layout.topMargin: Theme.space2
             Symbol {
                 name: "eye"
-                color: root.view.cardInk
+                color: root.ink
                 side: Theme.smallSymbol
             }
             Words {
                 text: "Anyone can read the messages of this number."
-                color: root.view.cardInk
+                color: root.ink
                 font.pixelSize: Theme.secondarySize
                 Layout.fillWidth: true
             }

@@ -1,16 +1,19 @@
 import QtQuick
 import QtQuick.Layouts
-import Orl.Screens
 
 // Asks for the name under which an identity is kept. An empty name keeps it open, and what was typed stays until it is
 // used.
 SheetFrame {
     id: root
-    required property FakeGeneratorView view
+    required property bool shown
+    required property string name
+    signal nameEdited(string text)
+    signal saveTapped
+    signal cancelTapped
 
-    visible: view.saveDialog
+    visible: shown
     centred: true
-    onClosed: if (root.view.saveDialog) root.view.cancelSave()
+    onClosed: if (shown) cancelTapped()
     onOpened: field.forceActiveFocus()
 
     FocusScope {
@@ -39,12 +42,12 @@ SheetFrame {
             InputField {
                 id: field
                 placeholderText: "Enter name"
-                text: root.view.saveNameText
+                text: root.name
                 focus: true
                 implicitWidth: 0
                 Layout.fillWidth: true
-                onTextEdited: root.view.saveNameText = text
-                onAccepted: root.view.save()
+                onTextEdited: root.nameEdited(text)
+                onAccepted: root.saveTapped()
             }
             GridLayout {
                 columns: Theme.large ? 1 : 2
@@ -58,14 +61,14 @@ SheetFrame {
                     implicitWidth: 0
                     Layout.fillWidth: true
                     Layout.fillHeight: !Theme.large
-                    onClicked: root.view.cancelSave()
+                    onClicked: root.cancelTapped()
                 }
                 MainButton {
                     id: saveButton
                     text: "Save"
                     implicitWidth: 0
                     Layout.fillWidth: true
-                    onClicked: root.view.save()
+                    onClicked: root.saveTapped()
                 }
             }
         }

@@ -7,9 +7,10 @@ import Orl.Screens
 // Qt 6.4 hold on to cards that are gone when the country changes.
 Column {
     id: root
-    required property HomeView view
+    required property KeyedListModel numbers
+    signal tapped(int index)
 
-    visible: view.similar.count > 0
+    visible: numbers.count > 0
     topPadding: Theme.space4
     spacing: Theme.space2
 
@@ -25,12 +26,12 @@ Column {
         columns: Theme.large ? 1 : 2
         spacing: Theme.space2
         Repeater {
-            model: root.view.similar
+            model: root.numbers
             NumberCard {
                 required property int index
                 padding: Theme.space3
                 width: (root.width - (grid.columns - 1) * grid.spacing) / grid.columns
-                onClicked: root.view.tapSimilar(index)
+                onClicked: root.tapped(index)
             }
         }
     }

@@ -1,10 +1,11 @@
 import QtQuick
-import Orl.Screens
 
 // Chooses how the messages are laid out.
 Rectangle {
     id: root
-    required property HomeView view
+    required property bool bySender
+    signal recentTapped
+    signal sendersTapped
 
     implicitHeight: row.implicitHeight
     implicitWidth: row.implicitWidth
@@ -17,13 +18,13 @@ Rectangle {
         id: row
         StackTab {
             text: "Recent"
-            checked: !root.view.bySender
-            onClicked: root.view.showRecent()
+            checked: !root.bySender
+            onClicked: root.recentTapped()
         }
         StackTab {
             text: "Senders"
-            checked: root.view.bySender
-            onClicked: root.view.showSenders()
+            checked: root.bySender
+            onClicked: root.sendersTapped()
         }
     }
 }
