@@ -23,6 +23,13 @@ std::optional<int> endsHere(orl::SingleInstance &instance, const QString &activa
     return std::nullopt;
 }
 
+/// The web engine starts a process that forks off those without a sandbox, of which there are none here, and
+/// keeps the one that plays sounds long after the last. Before any thread reads the environment.
+void keepFewWebProcesses() {
+    constexpr const char *variable = "QTWEBENGINE_CHROMIUM_FLAGS";
+    qputenv(variable, qgetenv(variable) + " --no-unsandboxed-zygote --audio-service-quit-timeout-ms=1000");
+}
+
 } // namespace
 
 int main(int argc, char **argv) {
@@ -38,6 +45,7 @@ int main(int argc, char **argv) {
         qEnvironmentVariable("XDG_ACTIVATION_TOKEN"); // gone once a window took it
     // The web view of a mail, which comes later if at all, draws with what the window draws with.
     QGuiApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    keepFewWebProcesses();
     QGuiApplication gui(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("orl"));
     QGuiApplication::setDesktopFileName(QStringLiteral("orl"));

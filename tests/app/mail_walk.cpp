@@ -1,5 +1,6 @@
 // The stations of the mail tab, on a host that goes on while the program is killed and started again.
 #include "demo/mail/letter_texts.h"
+#include "support/web_processes.h"
 #include "walker.h"
 
 #include <QRegularExpression>
@@ -14,6 +15,7 @@ public:
     void watchMails();
     void readMails();
     void readNote();
+    void leaveTheTab();
     void readMarksAfterARestart();
     void changeOfAddress();
     void hostGoneAndBack();
@@ -122,6 +124,14 @@ void MailWalk::readNote() {
     ASSERT_NO_FATAL_FAILURE(closeMail());
 }
 
+/// What draws mails goes ten seconds later. What stays is one process that waits.
+void MailWalk::leaveTheTab() {
+    EXPECT_GE(WebProcesses::of(program->processId()).drawing, 1);
+    ASSERT_NO_FATAL_FAILURE(press(tab(QStringLiteral("Settings")), "another tab"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return WebProcesses::of(program->processId()).drawing == 0; }, 60000));
+    EXPECT_EQ(WebProcesses::of(program->processId()).waiting, 1);
+}
+
 void MailWalk::readMarksAfterARestart() {
     killProgram();
     startProgram(servedByNetwork(host));
@@ -187,9 +197,10 @@ void MailWalk::offlineAndBack() {
 }
 
 TEST_F(MailWalk, AnAddressItsMailsAndAnotherAddress) {
-    for (const auto station : {&MailWalk::buildAddress, &MailWalk::watchMails, &MailWalk::readMails,
-                               &MailWalk::readMarksAfterARestart, &MailWalk::changeOfAddress,
-                               &MailWalk::hostGoneAndBack, &MailWalk::offlineAndBack}) {
+    for (const auto station :
+         {&MailWalk::buildAddress, &MailWalk::watchMails, &MailWalk::readMails, &MailWalk::leaveTheTab,
+          &MailWalk::readMarksAfterARestart, &MailWalk::changeOfAddress, &MailWalk::hostGoneAndBack,
+          &MailWalk::offlineAndBack}) {
         (this->*station)();
         if (HasFatalFailure()) return;
     }

@@ -125,11 +125,13 @@ protected:
         EXPECT_EQ(std::exchange(complaints, {}).join(u'\n').toStdString(), "");
     }
 
-    static bool shows(const QQuickItem &item, const QString &words) {
-        if (!item.isVisible()) return false;
-        return item.property("text").toString().contains(words) ||
-               std::ranges::any_of(item.childItems(),
-                                   [&](const QQuickItem *child) { return shows(*child, words); });
+    /// What shows these words; null where nothing does.
+    static const QQuickItem *showing(const QQuickItem &item, const QString &words) {
+        if (!item.isVisible()) return nullptr;
+        if (item.property("text").toString().contains(words)) return &item;
+        for (const QQuickItem *child : item.childItems())
+            if (const QQuickItem *found = showing(*child, words)) return found;
+        return nullptr;
     }
 
     void rest() {
@@ -189,6 +191,12 @@ TEST_P(MailLayoutTest, Builder) {
     mail().builder()->tapLogin();
     mail().builder()->setLogin(QStringLiteral("hello"));
     look("mail-builder-suggestions");
+    const QList<QQuickItem *> fields = window_->findChildren<QQuickItem *>(QStringLiteral("addressPart"));
+    ASSERT_EQ(fields.size(), 2);
+    const auto place = [](const QQuickItem &item) { return item.mapToScene(QPointF()); };
+    EXPECT_TRUE(place(*fields[0]).x() < place(*fields[1]).x() ||
+                place(*fields[0]).y() < place(*fields[1]).y())
+        << "a name stands before its domain";
     answerInbox(QStringList{});
     phone.urls.answer(phone.endpoints.mailHost + "/api/emails?inbox=" + mail().builder()->address(),
                       test::inboxJson({}));
@@ -212,6 +220,16 @@ TEST_P(MailLayoutTest, Mails) {
 
     mail().tapMail(rowOf(QStringLiteral("Orl")));
     lookAtPage("mail-welcome");
+    auto *page = window_->findChild<QQuickItem *>(QStringLiteral("mailView"));
+    const QSizeF size = page->size();
+    page->parentItem()->setProperty("hovered", QStringLiteral("https://www.bank.example.") +
+                                                   QStringLiteral("long-host.").repeated(8) +
+                                                   QStringLiteral("somebody.example/account"));
+    look("mail-link");
+    const QQuickItem *link = showing(*window_->contentItem(), QStringLiteral("https://www.bank.example."));
+    ASSERT_NE(link, nullptr);
+    EXPECT_LE(link->mapToScene(QPointF(0, link->height())).y(), window_->height()) << "it is out of sight";
+    EXPECT_EQ(page->size(), size) << "the link moves away from under the pointer";
     mail().closeMail();
     mail().tapMail(rowOf(QStringLiteral("Maya Okafor")));
     lookAtPage("mail-attachments");
@@ -245,7 +263,8 @@ TEST_P(MailLayoutTest, WordsWhereTheWebEngineMayNotRun) {
     mail().tapMail(rowOf(QStringLiteral("Orl")));
     look("mail-words");
     EXPECT_EQ(window_->findChild<QQuickItem *>(QStringLiteral("mailView")), nullptr);
-    EXPECT_TRUE(shows(*window_->contentItem(), QStringLiteral("does not run as root"))) << "nobody says why";
+    EXPECT_NE(showing(*window_->contentItem(), QStringLiteral("does not run as root")), nullptr)
+        << "nobody says why";
     EXPECT_TRUE(mail().details()->text().startsWith(QStringLiteral("Your inbox is ready\nMail to ")));
     qputenv("QTWEBENGINE_DISABLE_SANDBOX", told);
 }

@@ -53,11 +53,15 @@ Flickable {
                     Behavior on opacity { NumberAnimation { duration: Theme.motion } }
                 }
                 GridLayout {
+                    // An address is read from left to right everywhere.
+                    LayoutMirroring.enabled: false
+                    LayoutMirroring.childrenInherit: true
                     columns: Theme.large ? 1 : 3
                     columnSpacing: Theme.space2
                     rowSpacing: Theme.space2
                     InputField {
                         id: login
+                        objectName: "addressPart"
                         implicitWidth: 0
                         placeholderText: "name"
                         inputMethodHints: Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase | Qt.ImhEmailCharactersOnly
@@ -79,6 +83,7 @@ Flickable {
                         Layout.alignment: Qt.AlignHCenter
                     }
                     InputField {
+                        objectName: "addressPart"
                         implicitWidth: 0
                         enabled: false
                         opacity: 0.4

@@ -21,6 +21,7 @@ ColumnLayout {
         text: "Copy address " + root.address
         padding: Theme.space4
         cornerRadius: Theme.cardRadius
+        frameInside: true
         Layout.fillWidth: true
         Layout.bottomMargin: Theme.space3
         Accessible.description: "Tap to copy"
@@ -37,10 +38,9 @@ ColumnLayout {
             ColumnLayout {
                 spacing: Theme.space1
                 Words {
-                    text: root.address
+                    text: root.address.replace("@", "@\u200B") // breaks there first
                     font.pixelSize: Theme.headingSize
                     font.weight: Font.Bold
-                    wrapMode: Text.WrapAnywhere
                     maximumLineCount: 3
                     fontSizeMode: Text.Fit
                     minimumPixelSize: Theme.textSize

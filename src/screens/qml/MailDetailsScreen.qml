@@ -50,6 +50,7 @@ FocusScope {
                 Layout.rightMargin: Theme.margin
             }
             Rectangle {
+                id: card
                 color: Theme.mailGround
                 radius: Theme.cardRadius
                 implicitHeight: Theme.pageHeight
@@ -96,6 +97,12 @@ FocusScope {
                         value: root.view.page
                         when: web.status === Loader.Ready
                     }
+                    Binding {
+                        target: web.item
+                        property: "below"
+                        value: Math.max(0, card.y + web.y + web.height - scroll.contentY - scroll.height)
+                        when: web.status === Loader.Ready
+                    }
                     Connections {
                         target: root.view
                         function onMailChanged() { web.wanted = web.wanted || root.view.hasContent; }
@@ -123,6 +130,7 @@ FocusScope {
                             width: parent.width
                             text: web.failed ? root.view.text : ""
                             color: Theme.mailText
+                            horizontalAlignment: undefined // as the mail is written, not as the program is
                         }
                     }
                 }

@@ -29,13 +29,13 @@ ColumnLayout {
                 Layout.fillWidth: true
             }
             Words {
-                text: root.senderAddress
+                text: root.senderAddress.replace("@", "@\u200B") // breaks there first
                 color: Theme.secondary
                 font.pixelSize: Theme.secondarySize
-                wrapMode: Text.WrapAnywhere
-                maximumLineCount: 2
+                maximumLineCount: 3
                 elide: Text.ElideRight
                 Layout.fillWidth: true
+                Accessible.name: root.senderAddress
             }
         }
         Words {

@@ -28,6 +28,8 @@ QtObject {
     readonly property color mailGround: "#191C21"
     readonly property color mailText: "#F2F4F7"
     readonly property color mailSecondary: "#A3ABB8"
+    // Its letters begin larger than ours and grow once ours have reached them.
+    readonly property real mailScale: Math.max(1, textScale * 15 / 20)
     readonly property color off: dark ? "#4A515C" : "#8A93A3"
     readonly property color dim: Qt.alpha("black", dark ? 0.6 : 0.4)
     readonly property color clear: "transparent"

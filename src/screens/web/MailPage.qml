@@ -7,15 +7,18 @@ Item {
     id: root
     property string page
     property bool withheld: false
+    property real textScale: 1
     readonly property string destination: web.destination !== "" ? web.destination : hovered
     readonly property alias loading: view.loading
     readonly property url url: view.url
+    readonly property bool onMail: String(view.url) === String(web.address)
     // The page that was given has been loaded, or given up.
     property bool ready: false
     property string hovered
 
     onPageChanged: show()
     onWithheldChanged: show()
+    onTextScaleChanged: view.zoomFactor = textScale
     Component.onCompleted: show()
 
     // A page with a ground of its own leaves it to the next one, unless the colour is set anew.
@@ -74,6 +77,8 @@ Item {
             if (request.userInitiated && web.allows(request.requestedUrl, WebEngineView.LinkClickedNavigation, true))
                 view.url = request.requestedUrl;
         }
+        // The engine keeps the size with the page's host, and each mail has one of its own.
+        onUrlChanged: zoomFactor = root.textScale
         onLoadingChanged: info => {
             if (info.status === WebEngineView.LoadStartedStatus) return root.clear();
             if (String(info.url) === String(web.address)) root.ready = true;
@@ -107,7 +112,6 @@ Item {
         onFileSystemAccessRequested: request => request.reject()
         onFullScreenRequested: request => request.reject()
     }
-    readonly property bool onMail: String(view.url) === String(web.address)
 
     Connections {
         target: web.profile

@@ -131,7 +131,7 @@ bool MailWeb::allows(const QUrl &url, int type, bool mainFrame) {
 }
 
 QString MailWeb::shown(const QUrl &url) {
-    return QString::fromLatin1(url.toEncoded());
+    return QString::fromLatin1(url.toEncoded(QUrl::RemoveUserInfo));
 }
 
 void MailWeb::loadEnded() {

@@ -50,7 +50,8 @@ public:
 
     /// Whether the view may go there. `type` is one of WebEngineView's navigation types.
     Q_INVOKABLE bool allows(const QUrl &url, int type, bool mainFrame);
-    /// Where a link leads as it is to be shown: in full, its host in the letters that the network sees.
+    /// Where a link leads as it is to be shown: its host in the letters that the network sees, and without a
+    /// name and password before it, as they may look like another host.
     Q_INVOKABLE static QString shown(const QUrl &url);
     Q_INVOKABLE void loadEnded();
 
