@@ -170,6 +170,12 @@ TEST_P(IdentityLayoutTest, Gallery) {
     rest();
     EXPECT_EQ(button("Main, pressed").height(), button("Main").height())
         << "a text that fits into a line was laid out with two";
+    for (const QQuickItem *field : window->findChildren<QQuickItem *>()) {
+        if (!field->inherits("QQuickTextField") || !field->isVisible()) continue;
+        EXPECT_EQ(field->property("effectiveHorizontalAlignment").toInt(),
+                  GetParam().rightToLeft ? Qt::AlignRight : Qt::AlignLeft)
+            << field->property("text").toString().toStdString();
+    }
     const double most = scroll->property("contentHeight").toDouble() - window->height();
     ASSERT_GT(most, 1000);
     int page = 0;

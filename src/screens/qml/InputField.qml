@@ -13,6 +13,7 @@ T.TextField {
     selectionColor: Theme.accent
     selectedTextColor: Theme.accentText
     font.pixelSize: Theme.rowSize
+    horizontalAlignment: TextInput.AlignLeft // where lines of the layout begin, as the hint does
     verticalAlignment: TextInput.AlignVCenter
     implicitHeight: Math.max(Theme.target, contentHeight + 2 * Theme.space3)
     implicitWidth: Theme.leastWidth
