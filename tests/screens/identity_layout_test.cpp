@@ -162,6 +162,33 @@ TEST_P(IdentityLayoutTest, Tab) {
     look(QStringLiteral("offline"));
 }
 
+namespace {
+
+void gatherTexts(QQuickItem &item, QList<QQuickItem *> &texts) {
+    if (!item.isVisible() || item.opacity() == 0) return;
+    if (item.inherits("QQuickText") && !item.property("text").toString().isEmpty()) texts << &item;
+    for (QQuickItem *child : item.childItems())
+        gatherTexts(*child, texts);
+}
+
+/// Pairs of texts that share room.
+QStringList textsOnTexts(QQuickItem &root) {
+    QList<QQuickItem *> texts;
+    gatherTexts(root, texts);
+    const auto place = [](const QQuickItem *text) {
+        return text->mapRectToScene({0, 0, text->width(), text->height()}).adjusted(1, 1, -1, -1);
+    };
+    const auto words = [](const QQuickItem *text) { return text->property("text").toString(); };
+    QStringList pairs;
+    for (auto first = texts.cbegin(); first != texts.cend(); ++first)
+        for (auto second = first + 1; second != texts.cend(); ++second)
+            if (place(*first).intersects(place(*second)))
+                pairs << words(*first) + QStringLiteral(" / ") + words(*second);
+    return pairs;
+}
+
+} // namespace
+
 TEST_P(IdentityLayoutTest, Gallery) {
     Gallery gallery(appearance, *process);
     show(galleryWindow, {{QStringLiteral("gallery"), QVariant::fromValue(&gallery)}});
@@ -170,6 +197,7 @@ TEST_P(IdentityLayoutTest, Gallery) {
     rest();
     EXPECT_EQ(button("Main, pressed").height(), button("Main").height())
         << "a text that fits into a line was laid out with two";
+    EXPECT_EQ(textsOnTexts(*scroll).join(u'\n').toStdString(), "");
     for (const QQuickItem *field : window->findChildren<QQuickItem *>()) {
         if (!field->inherits("QQuickTextField") || !field->isVisible()) continue;
         EXPECT_EQ(field->property("effectiveHorizontalAlignment").toInt(),

@@ -22,22 +22,23 @@ RowLayout {
             key: root.face.icon
         }
     }
-    ColumnLayout {
-        spacing: 0
+    // No layout: one that gets its width late keeps the height of the lines that its words broke into before.
+    Column {
+        Layout.fillWidth: true
         Words {
             text: root.face.headline
             font.pixelSize: root.compact ? Theme.textSize : Theme.rowSize
             font.weight: Font.DemiBold
             maximumLineCount: root.compact ? 2 : 5
             elide: Text.ElideRight
-            Layout.fillWidth: true
+            width: parent.width
         }
         Words {
             text: root.face.advertiser
             color: Theme.secondary
             font.pixelSize: Theme.secondarySize
             visible: text !== "" && !root.compact
-            Layout.fillWidth: true
+            width: parent.width
         }
     }
     AdChip { Layout.alignment: Qt.AlignTop }
