@@ -65,6 +65,7 @@ void CountryScreen::showCountries() {
 
 void CountryScreen::tap(int row) {
     if (row < 0 || row >= shown_.size() || isPresented_) return;
+    const auto last = std::move(numbers_); // goes after the screen that still shows it
     numbers_.reset(new PhoneNumberView(process_, request_, shown_[row], firstSetup_));
     connect(numbers_.get(), &PhoneNumberView::left, this, [this] {
         setIsPresented(false);

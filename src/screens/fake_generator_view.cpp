@@ -206,7 +206,8 @@ void FakeGeneratorView::save() {
 void FakeGeneratorView::openSaved() {
     if (!hasSavedIdentities()) return;
     process_.platform().haptics.impact(Impact::Soft);
-    saved_ = std::make_unique<SavedIdentitiesView>(process_, request_);
+    const auto last = std::move(saved_); // goes after the screen that still shows it
+    saved_.reset(new SavedIdentitiesView(process_, request_));
     setShowSavedIdentities(true);
 }
 

@@ -167,7 +167,7 @@ private:
     GeneratedResultsView results_;
     SSNIsValidAlertView ssnAlert_;
     const std::unique_ptr<NativeWithGenerateButton> nativeWithButton_;
-    std::unique_ptr<SavedIdentitiesView> saved_;
+    std::unique_ptr<SavedIdentitiesView, QScopedPointerDeleteLater> saved_;
 };
 
 } // namespace orl

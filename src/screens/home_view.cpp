@@ -95,6 +95,7 @@ void HomeView::copyNumber() {
 
 void HomeView::openCountries() {
     if (countriesPresented_) return;
+    const auto last = std::move(countries_); // goes after the screen that still shows it
     countries_.reset(new CountriesView(process_, request_, internet_));
     connect(countries_.get(), &CountryScreen::numberChosen, this, &HomeView::closeCountries);
     Q_EMIT countriesChanged();

@@ -124,6 +124,7 @@ void SettingsView::writeMail() {
 
 void SettingsView::openHistory() {
     if (historyPresented_) return;
+    const auto last = std::move(history_); // goes after the screen that still shows it
     history_.reset(new HistoryView(process_, request_));
     connect(history_.get(), &HistoryView::dismissed, this, &SettingsView::closeHistory);
     Q_EMIT historyChanged();
@@ -140,6 +141,7 @@ void SettingsView::closeHistory() {
 
 void SettingsView::openCountries() {
     if (countriesPresented_) return;
+    const auto last = std::move(countries_); // goes after the screen that still shows it
     countries_.reset(new CountriesView(process_, request_, internet_));
     connect(countries_.get(), &CountryScreen::numberChosen, this, &SettingsView::closeCountries);
     Q_EMIT countriesChanged();

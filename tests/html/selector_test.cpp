@@ -112,6 +112,9 @@ TEST_F(SelectorTest, ByAttribute) {
 TEST_F(SelectorTest, FailsWhereReadingAnAttributeFails) {
     expectFound(page, {{"p[abs:=z]", ""}, {"nothing[abs:!=z]", ""}, {"p:has([abs:!=z])", ""}});
     EXPECT_THROW(page.select("p[abs:!=z]"), Exception::Error);
+    // That the paragraph is too deep to be found does not keep the question from it.
+    EXPECT_THROW(page.select("> p[abs:!=z]"), Exception::Error);
+    EXPECT_THROW(page.select("> p:not(b > [abs:!=z])"), Exception::Error);
 }
 
 TEST_F(SelectorTest, ByRelation) {

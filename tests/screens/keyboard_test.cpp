@@ -124,20 +124,33 @@ struct KeyboardTest : MailScreensTest {
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(window_, key, modifiers);
         QCoreApplication::processEvents();
-        // A field shows where it is by its own border and its cursor.
-        if (focus() && !focus()->inherits("QQuickTextInput") && !showsItself(*focus()))
-            unseen << describe(*focus());
+        if (!focusIsSeen()) settle(); // what has just come may not be laid out yet
+        if (!focusIsSeen()) unseen << describe(*focus());
+    }
+
+    /// A field shows where it is by its own border and its cursor.
+    bool focusIsSeen() const {
+        return !focus() || focus()->inherits("QQuickTextInput") || showsItself(*focus());
     }
 
     /// Whether the eye finds the item that has the focus: by a frame in or around it.
     static bool showsItself(const QQuickItem &item) {
-        if (isFrame(item)) return item.isVisible();
+        if (isFrame(item)) return item.isVisible() && !isCut(item);
         const auto children = item.childItems();
         return std::any_of(children.begin(), children.end(),
                            [](const QQuickItem *child) { return showsItself(*child); });
     }
     static bool isFrame(const QQuickItem &item) {
         return QByteArray(item.metaObject()->className()).startsWith("FocusFrame");
+    }
+
+    /// Whether a side of it is out of sight.
+    static bool isCut(const QQuickItem &frame) {
+        for (const QQuickItem *above = frame.parentItem(); above; above = above->parentItem()) {
+            const QRectF seen = frame.mapRectToItem(above, QRectF(0, 0, frame.width(), frame.height()));
+            if (above->clip() && !QRectF(0, 0, above->width(), above->height()).contains(seen)) return true;
+        }
+        return false;
     }
 
     QQuickItem *focus() const { return window_->activeFocusItem(); }

@@ -136,6 +136,22 @@ protected:
         EXPECT_LE(place.right(), window_->width() + 0.5) << who;
     }
 
+    /// The button of this name below the item; null where none is in sight.
+    static const QQuickItem *button(const QQuickItem &item, const QString &name) {
+        if (!item.isVisible()) return nullptr;
+        if (item.inherits("QQuickAbstractButton") && item.property("text") == name) return &item;
+        for (const QQuickItem *child : item.childItems())
+            if (const QQuickItem *found = button(*child, name)) return found;
+        return nullptr;
+    }
+
+    /// Whether a button can be seen as a whole without scrolling, above the tabs.
+    bool isWhollyInSight(const QString &name) {
+        const QQuickItem *found = button(*window_->contentItem(), name);
+        const QQuickItem *tab = button(*window_->contentItem(), QStringLiteral("EMail"));
+        return found && tab && found->mapToScene({0, found->height()}).y() <= tab->mapToScene({0, 0}).y();
+    }
+
 private:
     static constexpr int fastPng = 80; ///< of 100; less work for a larger file
 
@@ -342,6 +358,7 @@ TEST_P(LayoutTest, HomeWithoutMessages) {
     look("offline-alert");
     content->home()->dismissOffline();
     look("offline");
+    EXPECT_TRUE(isWhollyInSight(QStringLiteral("Try again!")));
     phone.reachability.setOnline(true);
     phone.urls.hold(messagesUrl);
     content->home()->retry();
@@ -469,6 +486,67 @@ TEST_P(LayoutTest, Ads) {
     comeToRest();
     EXPECT_FALSE(consentQuestion_.isAsked());
 }
+
+/// With motion.
+class MovingLayoutTest : public LayoutTest {
+protected:
+    MovingLayoutTest() { appearance.setReducedMotion(false); }
+
+    /// Whether a text is in sight below the item.
+    static bool shows(const QQuickItem &item, const QString &text) {
+        if (!item.isVisible()) return false;
+        if (item.inherits("QQuickText") && item.property("text") == text) return true;
+        return std::ranges::any_of(item.childItems(),
+                                   [&](const QQuickItem *child) { return shows(*child, text); });
+    }
+    bool shows(const QString &text) { return shows(*window_->contentItem(), text); }
+};
+
+TEST_P(MovingLayoutTest, CountryTappedWhileTheLastOneSlidesOutShowsItsOwnNumbers) {
+    open();
+    comeToRest();
+    phone.urls.answer(QStringLiteral("https://first.example/en/niger"), test::numbersPage({"+227 555 0101"}));
+    ChoosePhoneView &chooser = *content->chooser();
+    chooser.tap(1);
+    comeToRest();
+    ASSERT_TRUE(shows(QStringLiteral("+1 5550100")));
+    chooser.setIsPresented(false);
+    PlayedAnimations::shared().advance();
+    ASSERT_TRUE(shows(QStringLiteral("+1 5550100"))) << "it is still on its way out";
+    chooser.tap(0);
+    comeToRest();
+    EXPECT_TRUE(shows(QStringLiteral("+2 275550101")));
+    EXPECT_FALSE(shows(QStringLiteral("+1 5550100")));
+    EXPECT_EQ(complaints.join(u'\n').toStdString(), "") << "a screen outlived what it shows";
+}
+
+// Of a long list, some cards are still being made when it goes.
+TEST_P(MovingLayoutTest, ScreenGoesAheadOfWhatItShows) {
+    open();
+    comeToRest();
+    QList<QByteArray> many;
+    for (int i = 10; i < 50; ++i)
+        many << "+1 555 01" + QByteArray::number(i);
+    phone.urls.answer(norwayUrl, test::numbersPage(many));
+    phone.urls.answer(QStringLiteral("https://first.example/en/niger"), test::numbersPage({"+227 555 0101"}));
+    ChoosePhoneView &chooser = *content->chooser();
+    for (int frames = 1; frames <= 8; ++frames) {
+        chooser.tap(1);
+        for (int frame = 0; frame < frames; ++frame) {
+            phone.settle();
+            PlayedAnimations::shared().advance();
+            QCoreApplication::processEvents();
+        }
+        chooser.setIsPresented(false);
+        chooser.tap(0);
+        chooser.setIsPresented(false);
+        comeToRest();
+    }
+    EXPECT_EQ(complaints.join(u'\n').toStdString(), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(Phone, MovingLayoutTest, testing::Values(looks[0]),
+                         [](const auto &look) { return std::string(look.param.name); });
 
 INSTANTIATE_TEST_SUITE_P(Looks, LayoutTest, testing::ValuesIn(looks),
                          [](const auto &look) { return std::string(look.param.name); });

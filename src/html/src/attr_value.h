@@ -16,6 +16,9 @@ public:
     explicit AttrReader(std::string_view key)
         : key_(key), anyCase_(key), absolute_(anyCase_.lower().starts_with("abs:")) {}
 
+    /// Whether reading never fails.
+    bool isSure() const { return anyCase_.lower() != "abs:"; }
+
     bool isOn(NodeRec *element) const;
     /// What `test` says of the value; false for an element that has not got it.
     template<class Test>

@@ -33,7 +33,9 @@ Found findWithin(Predicate &predicate, NodeRec *top, std::uint32_t levels) {
 class CustomPredicate final : public Predicate {
 public:
     CustomPredicate(const Evaluator &evaluator, Scope &scope)
-        : Predicate({.growing = false, .cheap = false}), evaluator_(evaluator), scope_(scope) {}
+        : Predicate({.growing = false, .cheap = false, .sure = false}),
+          evaluator_(evaluator),
+          scope_(scope) {}
 
     bool holds(NodeRec *element) override {
         return evaluator_.matches(Element(scope_.root), Element(element));
@@ -98,8 +100,9 @@ SharedRefs Search::run() {
     return found;
 }
 
+/// What may fail is asked about every element: it may fail at one that is too deep to be found.
 Found Search::find() {
-    if (traits().reach == Traits::unlimited) return predicate_->findIn(scope_.root);
+    if (traits().reach == Traits::unlimited || !traits().sure) return predicate_->findIn(scope_.root);
     return findWithin(*predicate_, scope_.root, traits().reach);
 }
 

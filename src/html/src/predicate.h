@@ -37,6 +37,7 @@ struct Traits {
     bool growing = true;             ///< what matches as seen from a root also matches from any root above it
     bool cheap = true;               ///< asking again costs less than remembering
     std::uint32_t reach = unlimited; ///< so many levels below the root it can hold, and no deeper
+    bool sure = true;                ///< never fails
 };
 
 class Predicate {

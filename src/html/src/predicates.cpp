@@ -21,6 +21,7 @@ using namespace core;
 namespace {
 
 constexpr Traits costly{.cheap = false};
+constexpr Traits costlyPattern{.cheap = false, .sure = false}; // a pattern may be stopped by its limits
 
 } // namespace
 
@@ -100,7 +101,8 @@ PredicatePtr Evaluator::Id::compile(Scope &) const {
 // ---- Attributes
 
 PredicatePtr Evaluator::Attribute::compile(Scope &) const {
-    return makeLeaf([reader = AttrReader(key_)](NodeRec *element) { return reader.isOn(element); });
+    const AttrReader reader(key_);
+    return makeLeaf([reader](NodeRec *element) { return reader.isOn(element); }, {.sure = reader.isSure()});
 }
 
 PredicatePtr Evaluator::AttributeStarting::compile(Scope &) const {
@@ -117,9 +119,13 @@ namespace {
 /// `compare` gets the attribute's value and the evaluator's.
 template<class Compare>
 PredicatePtr makeComparison(const Evaluator::AttributeKeyPair &evaluator, Compare compare) {
-    return makeLeaf([reader = AttrReader(evaluator.key()), &evaluator, compare](NodeRec *element) {
-        return reader.holds(element, [&](std::string_view text) { return compare(text, evaluator.value()); });
-    });
+    const AttrReader reader(evaluator.key());
+    return makeLeaf(
+        [reader, &evaluator, compare](NodeRec *element) {
+            return reader.holds(element,
+                                [&](std::string_view text) { return compare(text, evaluator.value()); });
+        },
+        {.sure = reader.isSure()});
 }
 
 } // namespace
@@ -131,9 +137,13 @@ PredicatePtr Evaluator::AttributeWithValue::compile(Scope &) const {
 }
 
 PredicatePtr Evaluator::AttributeWithValueNot::compile(Scope &) const {
-    return makeLeaf([reader = AttrReader(key()), this](NodeRec *element) {
-        return reader.reads(element, [this](std::string_view text) { return !equalsLower(text, value()); });
-    });
+    const AttrReader reader(key());
+    return makeLeaf(
+        [reader, this](NodeRec *element) {
+            return reader.reads(element,
+                                [this](std::string_view text) { return !equalsLower(text, value()); });
+        },
+        {.sure = reader.isSure()});
 }
 
 PredicatePtr Evaluator::AttributeWithValueStarting::compile(Scope &) const {
@@ -154,7 +164,7 @@ PredicatePtr Evaluator::AttributeWithValueMatching::compile(Scope &) const {
         [reader = AttrReader(key_), search](NodeRec *element) {
             return reader.holds(element, [&](std::string_view text) { return search->isFoundIn(text); });
         },
-        costly);
+        costlyPattern);
 }
 
 // ---- Places
@@ -288,13 +298,14 @@ PredicatePtr Evaluator::ContainsOwnText::compile(Scope &) const {
 
 PredicatePtr Evaluator::Matches::compile(Scope &) const {
     const auto search = std::make_shared<PatternSearch>(pattern_);
-    return makeLeaf([search](const NodeRec *element) { return search->isFoundIn(textOf(element)); }, costly);
+    return makeLeaf([search](const NodeRec *element) { return search->isFoundIn(textOf(element)); },
+                    costlyPattern);
 }
 
 PredicatePtr Evaluator::MatchesOwn::compile(Scope &) const {
     const auto search = std::make_shared<PatternSearch>(pattern_);
     return makeLeaf([search](const NodeRec *element) { return search->isFoundIn(ownTextOf(element)); },
-                    costly);
+                    costlyPattern);
 }
 
 } // namespace orl::html

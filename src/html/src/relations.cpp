@@ -23,6 +23,7 @@ Traits traitsOfAll(const std::vector<PredicatePtr> &parts) {
         all.growing = all.growing && part->traits.growing;
         all.cheap = all.cheap && part->traits.cheap;
         all.reach = std::min(all.reach, part->traits.reach);
+        all.sure = all.sure && part->traits.sure;
     }
     return all;
 }

@@ -32,7 +32,8 @@ public:
         : Predicate({.growing = inner->traits.growing,
                      .cheap = inner->traits.cheap,
                      .reach = inner->traits.reach == Traits::unlimited ? Traits::unlimited
-                                                                       : inner->traits.reach + 1}),
+                                                                       : inner->traits.reach + 1,
+                     .sure = inner->traits.sure}),
           inner_(std::move(inner)),
           scope_(scope) {}
 
@@ -63,7 +64,9 @@ private:
 class AncestorPredicate final : public Predicate {
 public:
     AncestorPredicate(PredicatePtr inner, Scope &scope)
-        : Predicate({.growing = inner->traits.growing}), inner_(std::move(inner)), scope_(scope) {}
+        : Predicate({.growing = inner->traits.growing, .sure = inner->traits.sure}),
+          inner_(std::move(inner)),
+          scope_(scope) {}
 
     bool holds(NodeRec *element) override {
         const Ref ref = refOf(element);
@@ -201,8 +204,10 @@ private:
 class PreviousSiblingPredicate final : public Predicate {
 public:
     PreviousSiblingPredicate(PredicatePtr inner, Scope &scope)
-        : Predicate(
-              {.growing = inner->traits.growing, .cheap = inner->traits.cheap, .reach = inner->traits.reach}),
+        : Predicate({.growing = inner->traits.growing,
+                     .cheap = inner->traits.cheap,
+                     .reach = inner->traits.reach,
+                     .sure = inner->traits.sure}),
           inner_(std::move(inner)),
           scope_(scope) {}
 
@@ -223,7 +228,8 @@ private:
 class NotPredicate final : public Predicate {
 public:
     NotPredicate(PredicatePtr inner, bool scopeFree)
-        : Predicate({.growing = scopeFree, .cheap = inner->traits.cheap}), inner_(std::move(inner)) {}
+        : Predicate({.growing = scopeFree, .cheap = inner->traits.cheap, .sure = inner->traits.sure}),
+          inner_(std::move(inner)) {}
 
     bool holds(NodeRec *element) override { return !inner_->holds(element); }
     bool appendQuestion(std::string &question) const override {

@@ -13,6 +13,7 @@ Pressable {
     rightPadding: Theme.space3
     topPadding: Theme.space1
     bottomPadding: Theme.space1
+    frameInside: true
     background: Card { down: root.down }
     contentItem: ColumnLayout {
         spacing: Theme.space2

@@ -5,10 +5,12 @@ Rectangle {
     id: root
     required property Item control
     property int cornerRadius: Theme.controlRadius
+    property bool inside: false // for what reaches the edge of something that cuts off the rest
+    readonly property int outset: root.inside ? 0 : Theme.focusRing
 
     anchors.fill: parent
-    anchors.margins: -Theme.focusRing
-    radius: root.cornerRadius + Theme.focusRing
+    anchors.margins: -root.outset
+    radius: root.cornerRadius + root.outset
     color: Theme.clear
     border.color: Theme.accent
     border.width: Theme.focusRing

@@ -63,6 +63,7 @@ FocusScope {
             y: Math.max(0, (parent.height - height) / 2)
             text: "Ad: " + face.headline
             cornerRadius: Theme.cardRadius
+            frameInside: true
             padding: Theme.space4
             leftPadding: padding
             rightPadding: padding

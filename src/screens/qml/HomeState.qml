@@ -15,6 +15,7 @@ Item {
         id: offline
         width: parent.width
         compact: true
+        crowded: Theme.large
         visible: root.shown === HomeView.Offline
         onActed: root.retried()
     }

@@ -21,6 +21,7 @@ ColumnLayout {
         text: "Copy address " + root.address
         padding: Theme.space4
         cornerRadius: Theme.cardRadius
+        frameInside: true
         Layout.fillWidth: true
         Layout.bottomMargin: Theme.space3
         Accessible.description: "Tap to copy"

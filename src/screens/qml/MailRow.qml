@@ -15,6 +15,7 @@ Pressable {
     leftPadding: Theme.space2
     rightPadding: Theme.space2
     scale: 1
+    frameInside: true
     Accessible.description: unread ? "Unread" : "Read"
     background: Item {
         Rectangle {

@@ -44,9 +44,13 @@ RowLayout {
                 text: entry.modelData
                 leftPadding: Theme.space2
                 rightPadding: Theme.space2
+                frameInside: true
                 Accessible.selected: entry.isChosen
                 Accessible.checked: entry.isChosen
                 onClicked: root.tapped(entry.modelData)
+                onActiveFocusChanged: {
+                    if (activeFocus) entry.ListView.view.positionViewAtIndex(entry.index, ListView.Contain);
+                }
                 background: Rectangle {
                     radius: Theme.controlRadius
                     color: button.down ? Theme.tint : Theme.clear

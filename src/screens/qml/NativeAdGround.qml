@@ -12,6 +12,7 @@ Pressable {
     text: "Ad: " + view.face.headline
     width: parent ? parent.width : implicitWidth
     cornerRadius: Theme.cardRadius
+    frameInside: true
     padding: Theme.space4
     leftPadding: padding
     rightPadding: padding

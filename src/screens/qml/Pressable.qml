@@ -5,6 +5,7 @@ import QtQuick.Templates as T
 T.AbstractButton {
     id: root
     property int cornerRadius: Theme.controlRadius
+    property alias frameInside: frame.inside
 
     // Whole, as a text that gets a part of a point less than it needs wraps, and is laid out with two lines.
     implicitWidth: Math.max(Theme.target, Math.ceil(implicitContentWidth) + leftPadding + rightPadding)
@@ -20,6 +21,7 @@ T.AbstractButton {
     Behavior on scale { NumberAnimation { duration: Theme.motion / 2; easing.type: Easing.OutCubic } }
 
     FocusFrame {
+        id: frame
         control: root
         cornerRadius: root.cornerRadius
         z: 1

@@ -15,6 +15,7 @@ Pressable {
     leftPadding: Theme.space4
     rightPadding: Theme.space4
     cornerRadius: Theme.cardRadius
+    frameInside: true
     Accessible.description: fullName + ", " + time
     background: Card { down: root.down }
     contentItem: RowLayout {
