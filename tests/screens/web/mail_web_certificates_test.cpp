@@ -3,6 +3,7 @@
 // test's, and a certificate from it.
 #include "mail_web_view.h"
 
+#include <QDir>
 #include <QFile>
 #include <QGuiApplication>
 #include <QProcess>
@@ -23,23 +24,22 @@ QByteArray bytes(const char *name) {
     return opened.readAll();
 }
 
-bool run(const QString &program, const QStringList &arguments) {
-    return QProcess::execute(program, arguments) == 0;
-}
-
+/// A home with the authority and the certificate among the user's keys.
 bool makeHome(const QString &home) {
-    const QString keys = home + QStringLiteral("/.pki/nssdb"), database = QStringLiteral("sql:") + keys;
+    const QString keys = home + QStringLiteral("/.pki/nssdb");
+    const auto run = [&](const QString &program, const QStringList &arguments) {
+        return QProcess::execute(program, QStringList{QStringLiteral("-d"), QStringLiteral("sql:") + keys} +
+                                              arguments) == 0;
+    };
+    const QString none; // a password
     qputenv("HOME", home.toLocal8Bit());
-    return run(QStringLiteral("mkdir"), {QStringLiteral("-p"), keys}) &&
+    return QDir().mkpath(keys) &&
+           run(QStringLiteral("certutil"), {QStringLiteral("-N"), QStringLiteral("--empty-password")}) &&
            run(QStringLiteral("certutil"),
-               {QStringLiteral("-N"), QStringLiteral("-d"), database, QStringLiteral("--empty-password")}) &&
-           run(QStringLiteral("certutil"),
-               {QStringLiteral("-A"), QStringLiteral("-d"), database, QStringLiteral("-n"),
-                QStringLiteral("authority"), QStringLiteral("-t"), QStringLiteral("C,,"),
-                QStringLiteral("-i"), file("ca.pem")}) &&
-           run(QStringLiteral("pk12util"),
-               {QStringLiteral("-d"), database, QStringLiteral("-i"), file("client.p12"),
-                QStringLiteral("-W"), QString(), QStringLiteral("-K"), QString()});
+               {QStringLiteral("-A"), QStringLiteral("-n"), QStringLiteral("authority"), QStringLiteral("-t"),
+                QStringLiteral("C,,"), QStringLiteral("-i"), file("ca.pem")}) &&
+           run(QStringLiteral("pk12util"), {QStringLiteral("-i"), file("client.p12"), QStringLiteral("-W"),
+                                            none, QStringLiteral("-K"), none});
 }
 
 /// A server that asks; what happens to those who do not answer is the mode's.
