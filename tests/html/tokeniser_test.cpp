@@ -138,8 +138,8 @@ TEST(TokeniserTest, ReadsAttributes) {
     });
 }
 
-// A long tag is told from a short one, a name of the page's own from a known one and from one in other letters,
-// and a tag's names from those of the long tag before it, where they stand elsewhere.
+// A long tag is told from a short one, a name of the page's own from a known one and from one in other
+// letters, and a tag's names from those of the long tag before it, where they stand elsewhere.
 TEST(TokeniserTest, FindsRepeatedAttributesAmongMany) {
     for (const int count : {11, 12, 13, 5000}) {
         SCOPED_TRACE(count);
