@@ -8,8 +8,6 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace orl::bench {
 
@@ -191,25 +189,13 @@ Measured measured(const Shape &shape) {
     return {double(size), shorter.seconds, longer.seconds / shorter.seconds};
 }
 
-/// Each in a process of its own, so that none finds the memory in the pieces that another has left.
 void measure(benchmark::State &state, const Shape &shape) {
     for (auto _ : state) {
-        int ends[2];
-        Measured result{};
-        if (pipe(ends) != 0) return state.SkipWithError("no pipe");
-        const pid_t child = fork();
-        if (child == 0) {
-            result = measured(shape);
-            _exit(write(ends[1], &result, sizeof result) == sizeof result ? 0 : 1);
-        }
-        close(ends[1]);
-        const bool isRead = child > 0 && read(ends[0], &result, sizeof result) == sizeof result;
-        close(ends[0]);
-        if (child > 0) waitpid(child, nullptr, 0);
-        if (!isRead) return state.SkipWithError("the shape's process failed");
-        state.counters["size"] = result.size;
-        state.counters["seconds"] = result.seconds;
-        state.counters["ratio"] = result.ratio;
+        const auto result = apart([&shape] { return measured(shape); });
+        if (!result) return state.SkipWithError("the shape's process failed");
+        state.counters["size"] = result->size;
+        state.counters["seconds"] = result->seconds;
+        state.counters["ratio"] = result->ratio;
     }
 }
 
