@@ -131,8 +131,7 @@ struct alignas(16) NameRec {
     Ref lower; ///< the record of the name in lower case; its own if it is that
     std::uint32_t flags;
     std::uint32_t hash;
-    std::uint32_t place =
-        0; ///< for the tokeniser: where the last long tag with it had it; unused where static
+    std::uint32_t place = 0; ///< in the last long tag that had it; of use to the tokeniser alone
 
     std::string_view name() const { return {text, length}; }
 };
