@@ -112,9 +112,10 @@ TEST_F(SelectorTest, ByAttribute) {
 TEST_F(SelectorTest, FailsWhereReadingAnAttributeFails) {
     expectFound(page, {{"p[abs:=z]", ""}, {"nothing[abs:!=z]", ""}, {"p:has([abs:!=z])", ""}});
     EXPECT_THROW(page.select("p[abs:!=z]"), Exception::Error);
-    // That the paragraph is too deep to be found does not keep the question from it.
-    EXPECT_THROW(page.select("> p[abs:!=z]"), Exception::Error);
-    EXPECT_THROW(page.select("> p:not(b > [abs:!=z])"), Exception::Error);
+    // That an element is too deep to be found does not keep the question from it.
+    for (const char *query : {"> p[abs:!=z]", "> p:not(b > [abs:!=z])", ":not([abs:!=z] > b):root",
+                              ":not([abs:!=z] b):root", ":not([abs:!=z] + p):root"})
+        EXPECT_THROW(page.select(query), Exception::Error) << query;
 }
 
 TEST_F(SelectorTest, ByRelation) {
@@ -477,6 +478,17 @@ TEST(EvaluatorTest, FailuresBelowAndBesideCountAsNo) {
     EXPECT_EQ(names(CssSelector::select(std::make_shared<StructuralEvaluator::Has>(broken), page)), "");
     EXPECT_THROW(CssSelector::select(std::make_shared<StructuralEvaluator::Not>(broken), page),
                  Exception::Error);
+    // Nor can it be found as deep as it fails.
+    const auto shallow = std::make_shared<StructuralEvaluator::Root>();
+    const auto deep = std::make_shared<Evaluator::Tag>("x");
+    for (const EvaluatorPtr &fails :
+         {EvaluatorPtr(broken), EvaluatorPtr(std::make_shared<Evaluator::MatchesOwn>(Pattern::compile("("))),
+          EvaluatorPtr(
+              std::make_shared<Evaluator::AttributeWithValueMatching>("id", Pattern::compile("(")))}) {
+        const auto all =
+            std::make_shared<CombiningEvaluator::And>(std::vector<EvaluatorPtr>{deep, fails, shallow});
+        EXPECT_THROW(CssSelector::select(all, page), Exception::Error) << fails->toString();
+    }
 }
 
 // ---- Against the naive way
