@@ -105,9 +105,9 @@ protected:
                 const auto *page = window_->findChild<QQuickItem *>(QStringLiteral("mailView"));
                 if (!page || page->property("loading").toBool()) return false;
                 picture = window_->grabWindow();
-                const QRect place = page->mapRectToScene(page->boundingRect()).toRect() & picture.rect();
-                const bool inSight = place.bottom() < window_->height() && place.height() > 100;
-                return !inSight || coloursOf(picture.copy(place)) > 5; // large text may leave no room
+                const QRect seen = seenOf(*page);
+                return seen.height() < 60 ||
+                       coloursOf(picture.copy(seen)) > 5; // large text may leave no room
             },
             30000))
             << station;
@@ -142,6 +142,14 @@ protected:
     DemoHost pictures_;
 
 private:
+    /// The part of the window in which it is not cut off.
+    static QRect seenOf(const QQuickItem &item) {
+        QRectF seen = item.mapRectToScene(item.boundingRect());
+        for (const QQuickItem *above = item.parentItem(); above; above = above->parentItem())
+            if (above->clip()) seen &= above->mapRectToScene(QRectF(0, 0, above->width(), above->height()));
+        return seen.toRect();
+    }
+
     static int coloursOf(const QImage &picture) {
         QSet<QRgb> colours;
         for (int y = 0; y < picture.height(); y += 3) {
